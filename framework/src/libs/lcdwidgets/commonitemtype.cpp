@@ -1,0 +1,537 @@
+#include "commonitemtype.h"
+
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QTextLayout>
+#include <QVBoxLayout>
+
+namespace LCD {
+namespace Widget {
+
+namespace {
+
+constexpr char kTitleProperty[] = "itemTitleLabel";
+
+QString captionText(QString text)
+{
+    text.remove(QStringLiteral("设置"));
+    text.remove(QStringLiteral("画面"));
+    return text;
+}
+
+// Width a widget takes in the dynamic frame: its real width once laid out, its fixed or
+// hinted width before that.
+int layoutWidth(QWidget const* w)
+{
+    if (w->testAttribute(Qt::WA_WState_Visible) || w->testAttribute(Qt::WA_Resized))
+        return w->width();
+    if (w->minimumWidth() == w->maximumWidth())
+        return w->minimumWidth();
+    return qBound(w->minimumWidth(), w->sizeHint().width(), w->maximumWidth());
+}
+
+} // namespace
+
+struct CommonItemType::Impl
+{
+    QVBoxLayout* frameLayout = nullptr;
+    QHBoxLayout* rowLayout = nullptr;
+    QWidget* leftIconArea = nullptr;
+    QPushButton* leftIconButton = nullptr;
+    RollLabel* leftIconTitle = nullptr;
+    RollLabel* titleLabel = nullptr;
+    QLabel* secondTitleLabel = nullptr;
+    QFrame* dynamicFrame = nullptr;
+    QHBoxLayout* dynamicLayout = nullptr;
+    QPushButton* rightIconButton = nullptr;
+    QLabel* underLine = nullptr;
+
+    bool editing = false;
+    QString itemTitle;
+    QString secondTitle;
+    bool contentEnabled = true;
+    std::function<void()> textChanged;
+    bool autoUpdateContent = false;
+    int itemWidth = -1;
+    int dynamicMaxWidth = -1;
+    int contentFontSize = 20;
+    int itemHeight = -1;
+};
+
+CommonItemType::CommonItemType(QWidget* parent) : QFrame(parent), d(std::make_unique<Impl>())
+{
+    createWidgets();
+}
+
+CommonItemType::~CommonItemType() = default;
+
+void CommonItemType::createWidgets()
+{
+    d->frameLayout = new QVBoxLayout(this);
+    d->frameLayout->setSpacing(0);
+    d->frameLayout->setContentsMargins(0, 0, 0, 0);
+
+    d->rowLayout = new QHBoxLayout;
+    d->rowLayout->setSpacing(4);
+    d->rowLayout->setContentsMargins(8, 0, 8, 0);
+
+    // Position 0: left icon with its caption underneath.
+    d->leftIconArea = new QWidget(this);
+    auto* iconColumn = new QVBoxLayout(d->leftIconArea);
+    iconColumn->setContentsMargins(0, 0, 0, 0);
+    iconColumn->setSpacing(0);
+    d->leftIconButton = new QPushButton(d->leftIconArea);
+    d->leftIconButton->setObjectName(QStringLiteral("itemLeftIconButton"));
+    d->leftIconButton->setFocusPolicy(Qt::NoFocus);
+    d->leftIconButton->hide();
+    d->leftIconTitle = new RollLabel(d->leftIconArea);
+    d->leftIconTitle->setProperty(kTitleProperty, true);
+    d->leftIconTitle->setAlignment(Qt::AlignCenter);
+    d->leftIconTitle->hide();
+    auto* buttonRow = new QHBoxLayout;
+    buttonRow->setContentsMargins(0, 0, 0, 0);
+    buttonRow->setAlignment(Qt::AlignHCenter);
+    buttonRow->addWidget(d->leftIconButton);
+    auto* captionRow = new QHBoxLayout;
+    captionRow->setContentsMargins(0, 0, 0, 0);
+    captionRow->setAlignment(Qt::AlignHCenter);
+    captionRow->addWidget(d->leftIconTitle);
+    iconColumn->addStretch();
+    iconColumn->addLayout(buttonRow);
+    iconColumn->addStretch();
+    iconColumn->addLayout(captionRow);
+    iconColumn->addStretch();
+    d->rowLayout->addWidget(d->leftIconArea);
+    d->leftIconArea->hide(); // shown together with its button
+
+    // Position 1: title column.
+    auto* titleColumn = new QVBoxLayout;
+    titleColumn->setContentsMargins(0, 0, 0, 0);
+    titleColumn->setSpacing(0);
+    d->titleLabel = new RollLabel(this);
+    d->titleLabel->setProperty(kTitleProperty, true);
+    d->secondTitleLabel = new QLabel(this);
+    d->secondTitleLabel->setProperty(kTitleProperty, true);
+    d->secondTitleLabel->hide();
+    titleColumn->addWidget(d->titleLabel);
+    titleColumn->addWidget(d->secondTitleLabel);
+    d->rowLayout->addLayout(titleColumn);
+
+    // Position 2: the subclass's value widgets.
+    d->dynamicFrame = new QFrame(this);
+    d->dynamicFrame->setObjectName(QStringLiteral("itemDynamicFrame"));
+    d->dynamicLayout = new QHBoxLayout(d->dynamicFrame);
+    d->dynamicLayout->setContentsMargins(0, 0, 0, 0);
+    d->rowLayout->addWidget(d->dynamicFrame);
+
+    // Position 3: right icon.
+    d->rightIconButton = new QPushButton(this);
+    d->rightIconButton->setObjectName(QStringLiteral("itemRightIconButton"));
+    d->rightIconButton->setFocusPolicy(Qt::NoFocus);
+    d->rowLayout->addWidget(d->rightIconButton);
+
+    d->frameLayout->addStretch();
+    d->frameLayout->addLayout(d->rowLayout);
+    d->frameLayout->addStretch();
+    addUnderLine();
+}
+
+// ---------------------------------------------------------------------------
+// Virtual operations
+
+int CommonItemType::getWidgetRow()
+{
+    int dyn = 0;
+    calDynamicLayoutWidth(dyn);
+    int const f = d->contentFontSize;
+    int w = qMax(2 * f, d->itemWidth - dyn - 2 * f);
+    if (!d->itemTitle.isEmpty())
+        w = qMax(w, 4 * f);
+    d->titleLabel->setWidth(w);
+    d->titleLabel->setItemName(d->itemTitle);
+    d->titleLabel->setTextLabel(d->itemTitle, false);
+    d->dynamicMaxWidth = d->itemWidth - 4 * f;
+    return 1;
+}
+
+void CommonItemType::setLabelValue(QVariant, int) {}
+
+QVariant CommonItemType::getLabelValue() { return QVariant(); }
+
+void CommonItemType::editValue() {}
+
+void CommonItemType::closeEditValue() { emit signalEditClosed(); }
+
+void CommonItemType::setRange(float, float) {}
+
+void CommonItemType::setRange(int, int) {}
+
+void CommonItemType::setSingleStep(float) {}
+
+void CommonItemType::setRightIconSize(QSize size) { d->rightIconButton->setFixedSize(size); }
+
+void CommonItemType::setLeftIconSize(QSize size)
+{
+    d->leftIconButton->setFixedSize(size);
+    setLeftIconTitleHide(d->leftIconTitle->isHidden());
+}
+
+void CommonItemType::setContentFontSize(int size)
+{
+    d->contentFontSize = size;
+    d->titleLabel->setStyleSheet(QStringLiteral("QLabel{font-size: %1px; }").arg(size));
+    int const small = static_cast<int>(size * 0.6);
+    QString const smallSheet = QStringLiteral("QLabel{font-size: %1px; }").arg(small);
+    d->leftIconTitle->setStyleSheet(smallSheet);
+    d->secondTitleLabel->setStyleSheet(smallSheet);
+}
+
+void CommonItemType::setItemHeight(int height) { d->itemHeight = height; }
+
+void CommonItemType::setItemTitleWidth(int width)
+{
+    d->itemWidth = width;
+    notifyTextChanged();
+    emit signalItemWidthChanged(width);
+}
+
+void CommonItemType::setHomeRect(QRect) {}
+
+void CommonItemType::setRollLabel(bool) {}
+
+void CommonItemType::setContentEnabled(bool enabled)
+{
+    updateContentEnabled(enabled);
+    d->contentEnabled = enabled;
+}
+
+void CommonItemType::setCurrentItem(bool) {}
+
+// ---------------------------------------------------------------------------
+// Title
+
+RollLabel* CommonItemType::getTitleLabel() { return d->titleLabel; }
+
+bool CommonItemType::getLabelRoll() const { return d->titleLabel->getLabelRoll(); }
+
+void CommonItemType::setItemTitle(QString const& text) { setItemTitleRoll(text, false); }
+
+void CommonItemType::setItemTitleText(QString const& text) { setItemTitleRoll(text, getLabelRoll()); }
+
+void CommonItemType::setItemTitleRoll(QString const& text, bool roll)
+{
+    int dyn = 0;
+    calDynamicLayoutWidth(dyn);
+    int const f = d->contentFontSize;
+    int const w = qMax(2 * f, d->itemWidth - dyn - 2 * f);
+
+    d->itemTitle = text;
+    d->titleLabel->setWidth(w);
+    d->titleLabel->setItemName(text);
+    d->titleLabel->setTextLabel(text, roll);
+
+    QString const caption = captionText(text);
+    d->leftIconTitle->setWidth(w);
+    d->leftIconTitle->setItemName(caption);
+    d->leftIconTitle->setTextLabel(caption, false);
+
+    notifyTextChanged();
+}
+
+QString CommonItemType::itemTitle() const { return d->itemTitle; }
+
+void CommonItemType::setItemTitleProperty(std::string const& name, QVariant value)
+{
+    setStyleProperty(d->titleLabel, name.c_str(), value);
+}
+
+void CommonItemType::setItemTitlePropertyRoll(std::string const& name, QVariant value)
+{
+    setItemTitleProperty(name, value);
+    d->titleLabel->update();
+}
+
+QVariant CommonItemType::getItemTitlePropertyRoll(std::string const& name) const
+{
+    return d->titleLabel->property(name.c_str());
+}
+
+void CommonItemType::setItemTitleStyleSheet(QString const& sheet) { d->titleLabel->setStyleSheet(sheet); }
+
+void CommonItemType::setItemTitleLabelHide(bool hide) { d->titleLabel->setHidden(hide); }
+
+void CommonItemType::setMaximumWidthRoll(int width) { d->titleLabel->setMaximumWidth(width); }
+
+void CommonItemType::setRollLabelStretchMax()
+{
+    for (int i = 0; i < 5; ++i)
+        d->rowLayout->setStretch(i, i == 2 ? 1 : 0);
+}
+
+// ---------------------------------------------------------------------------
+// Second title
+
+void CommonItemType::setItemSecondTitle(QString const& text, int maxWidth)
+{
+    d->secondTitle = text;
+    QString shown = text;
+    if (maxWidth != 0) {
+        QString const elided =
+            d->secondTitleLabel->fontMetrics().elidedText(text, Qt::ElideRight, maxWidth);
+        if (elided != text)
+            shown = QStringLiteral("%1...").arg(elided.left(qMax(0, elided.size() - 3)));
+    }
+    d->secondTitleLabel->setText(shown);
+    notifyTextChanged();
+}
+
+QString CommonItemType::itemSecondTitle() const { return d->secondTitle; }
+
+void CommonItemType::setItemSecondTitleProperty(std::string const& name, QVariant value)
+{
+    setStyleProperty(d->secondTitleLabel, name.c_str(), value);
+}
+
+void CommonItemType::setItemSecondTitleStyleSheet(QString const& sheet) { d->secondTitleLabel->setStyleSheet(sheet); }
+
+void CommonItemType::setItemSecondTitleLabelHide(bool hide) { d->secondTitleLabel->setHidden(hide); }
+
+// ---------------------------------------------------------------------------
+// Icons
+
+void CommonItemType::setLeftIconButtonHide(bool hide)
+{
+    d->leftIconButton->setHidden(hide);
+    // The icon area follows its button: hidden with it, shown again with it.
+    d->leftIconArea->setHidden(hide);
+}
+
+void CommonItemType::setRightIconButtonHide(bool hide) { d->rightIconButton->setHidden(hide); }
+
+void CommonItemType::setLeftIconButtonProperty(std::string const& name, QVariant value)
+{
+    setStyleProperty(d->leftIconButton, name.c_str(), value);
+}
+
+void CommonItemType::setRightIconButtonProperty(std::string const& name, QVariant value)
+{
+    d->rightIconButton->setProperty(name.c_str(), value);
+}
+
+void CommonItemType::setLeftIconTitleHide(bool hide)
+{
+    bool const buttonHidden = d->leftIconButton->isHidden();
+    if (hide) {
+        d->leftIconTitle->hide();
+        if (!buttonHidden) {
+            int const w = d->leftIconButton->width();
+            d->leftIconArea->setFixedWidth(w);
+            d->leftIconTitle->setFixedWidth(w);
+            return;
+        }
+    } else {
+        d->leftIconTitle->show();
+        if (!buttonHidden) {
+            int const w = qMax(0, d->itemWidth - 16);
+            d->leftIconArea->setFixedWidth(w);
+            d->leftIconTitle->setFixedWidth(w);
+            return;
+        }
+    }
+    d->leftIconArea->hide();
+}
+
+// ---------------------------------------------------------------------------
+// Item-wide settings
+
+bool CommonItemType::getContentEnabled() const { return d->contentEnabled; }
+
+void CommonItemType::updateContentEnabled(bool enabled)
+{
+    d->leftIconButton->setEnabled(enabled);
+    d->rightIconButton->setEnabled(enabled);
+    setStyleProperty(d->titleLabel, kTitleProperty, enabled);
+    setContentDisabled(!enabled);
+}
+
+void CommonItemType::setAutoUpdateContent(bool autoUpdate) { d->autoUpdateContent = autoUpdate; }
+
+bool CommonItemType::getAutoUpdateContent() const { return d->autoUpdateContent; }
+
+int CommonItemType::contentFontSize() const { return d->contentFontSize; }
+
+int CommonItemType::getItemWidth() const { return d->itemWidth; }
+
+int CommonItemType::getDynamicMaxWidth() const { return d->dynamicMaxWidth; }
+
+int CommonItemType::itemHeight() const { return d->itemHeight; }
+
+void CommonItemType::setEdit(bool editing) { d->editing = editing; }
+
+bool CommonItemType::isEditing() { return d->editing; }
+
+void CommonItemType::setTextChangedCB(std::function<void()> const& callback) { d->textChanged = callback; }
+
+// ---------------------------------------------------------------------------
+// Geometry helpers
+
+void CommonItemType::calDynamicLayoutWidth(int& width) const
+{
+    for (int i = 0; i < d->dynamicLayout->count(); ++i) {
+        QWidget* w = d->dynamicLayout->itemAt(i)->widget();
+        if (w && !w->isHidden())
+            width += layoutWidth(w);
+    }
+}
+
+int CommonItemType::calculateTextLineCount(QString const& text, int width, QFont font) const
+{
+    QTextLayout layout(text, font);
+    layout.beginLayout();
+    int lines = 0;
+    for (;;) {
+        QTextLine line = layout.createLine();
+        if (!line.isValid())
+            break;
+        line.setLineWidth(width);
+        ++lines;
+    }
+    layout.endLayout();
+    return lines;
+}
+
+bool CommonItemType::isStrContainsChinese(QString text) const
+{
+    for (QChar const c : text) {
+        ushort const u = c.unicode();
+        if (u >= 0x4E00 && u <= 0x9FA5)
+            return true;
+    }
+    return false;
+}
+
+int CommonItemType::getLabelRow(QLabel* label) const
+{
+    int const f = d->contentFontSize;
+    if (!label || f < 1)
+        return 1;
+    QFont font;
+    font.setPixelSize(f);
+    QFontMetrics const fm(font);
+
+    int avail = 0;
+    if (d->titleLabel->isHidden()) {
+        avail = d->itemWidth;
+    } else if (label == d->titleLabel) {
+        int dyn = 0;
+        calDynamicLayoutWidth(dyn);
+        avail = d->itemWidth - dyn - 2 * f;
+    } else {
+        avail = d->itemWidth - d->titleLabel->sizeHint().width() - 2 * f;
+    }
+    if (avail < 1 || fm.height() == 0)
+        return 1;
+
+    QString text = label->text();
+    text.remove(QLatin1Char('\n'));
+
+    int lines = 1;
+    QString wrapped;
+    if (isStrContainsChinese(text)) {
+        // Ideographic text breaks between any two characters.
+        int const counted = calculateTextLineCount(text, avail, font);
+        int remaining = qMax(1, counted);
+        QString line;
+        for (QChar const c : qAsConst(text)) {
+            if (line.isEmpty() || fm.horizontalAdvance(line + c) <= avail) {
+                line += c;
+            } else if (remaining > 1) {
+                wrapped += line + QLatin1Char('\n');
+                --remaining;
+                line = QString(c);
+            } else {
+                line += c;
+            }
+        }
+        wrapped += line;
+        lines = qMax(1, counted);
+    } else {
+        // Latin text breaks after the last space that still fits.
+        QStringList out;
+        QString rest = text;
+        while (fm.horizontalAdvance(rest) > avail) {
+            int overflow = 1;
+            while (overflow < rest.size() && fm.horizontalAdvance(rest.left(overflow + 1)) <= avail)
+                ++overflow;
+            // `overflow` characters fit; the next one overflows.
+            int const space = rest.lastIndexOf(QLatin1Char(' '), overflow);
+            int const cut = space >= 0 ? space + 1 : overflow;
+            out << rest.left(cut);
+            rest = rest.mid(cut);
+            if (rest.isEmpty())
+                break;
+        }
+        if (!rest.isEmpty() || out.isEmpty())
+            out << rest;
+        wrapped = out.join(QLatin1Char('\n'));
+        lines = out.size();
+    }
+    label->setText(wrapped);
+    label->setFixedWidth(avail);
+    return qMax(1, lines);
+}
+
+void CommonItemType::addUnderLine()
+{
+    if (d->underLine)
+        return;
+    d->underLine = new QLabel(this);
+    d->underLine->setStyleSheet(QStringLiteral("background-color: rgba(255, 255, 255, 0.1);"));
+    d->underLine->setFixedHeight(3);
+    d->frameLayout->addWidget(d->underLine);
+}
+
+void CommonItemType::removeUnderLine()
+{
+    if (!d->underLine)
+        return;
+    d->frameLayout->removeWidget(d->underLine);
+    delete d->underLine;
+    d->underLine = nullptr;
+}
+
+bool CommonItemType::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::KeyPress) {
+        int const key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Escape || key == Qt::Key_Return || key == Qt::Key_Enter) {
+            emit signalEditFinished();
+            return true;
+        }
+    }
+    return QFrame::eventFilter(watched, event);
+}
+
+// ---------------------------------------------------------------------------
+// For subclasses
+
+QFrame* CommonItemType::dynamicFrame() const { return d->dynamicFrame; }
+QHBoxLayout* CommonItemType::dynamicLayout() const { return d->dynamicLayout; }
+QHBoxLayout* CommonItemType::rowLayout() const { return d->rowLayout; }
+QPushButton* CommonItemType::leftIconButton() const { return d->leftIconButton; }
+QPushButton* CommonItemType::rightIconButton() const { return d->rightIconButton; }
+RollLabel* CommonItemType::leftIconTitle() const { return d->leftIconTitle; }
+QLabel* CommonItemType::secondTitleLabel() const { return d->secondTitleLabel; }
+QLabel* CommonItemType::underLine() const { return d->underLine; }
+
+void CommonItemType::notifyTextChanged() const
+{
+    if (d->textChanged)
+        d->textChanged();
+}
+
+} // namespace Widget
+} // namespace LCD

@@ -1,0 +1,119 @@
+#include "rolllabel.h"
+
+#include <QEvent>
+#include <QPainter>
+#include <QTextDocument>
+#include <QTimer>
+
+RollLabel::RollLabel(QWidget* parent) : QLabel(parent), m_timer(new QTimer(this))
+{
+    connect(m_timer, &QTimer::timeout, this, &RollLabel::updateText);
+}
+
+RollLabel::~RollLabel() = default;
+
+void RollLabel::setWidth(int width)
+{
+    m_width = width;
+    setFixedWidth(qMax(0, width));
+}
+
+void RollLabel::setItemName(QString const& name) { m_itemName = name; }
+
+void RollLabel::setTextLabel(QString const& text, bool roll)
+{
+    m_sourceText = text;
+    m_rolling = !Qt::mightBeRichText(text);
+    if (m_width < 1) {
+        QLabel::setText(text);
+        return;
+    }
+    QString shown = text;
+    if (!roll) {
+        QFontMetrics const fm(font());
+        if (fm.horizontalAdvance(text) > m_width)
+            shown = fm.elidedText(text, Qt::ElideRight, m_width);
+    }
+    QLabel::setText(shown);
+    m_rollRequested = roll;
+    upateLabelRollingState();
+}
+
+void RollLabel::setCalTextLabel(QString const& text, int width, bool roll)
+{
+    m_itemName = text;
+    int const third = (2 * width) / 3;
+    m_width = qMin(third, QFontMetrics(font()).horizontalAdvance(text));
+    setTextLabel(text, roll);
+}
+
+void RollLabel::setspeed(int step, int interval)
+{
+    m_step = step;
+    m_interval = interval;
+}
+
+void RollLabel::setPixmapLabel(QPixmap const& pixmap)
+{
+    m_rolling = false;
+    m_timer->stop();
+    QLabel::setPixmap(pixmap);
+}
+
+bool RollLabel::getLabelRoll() const { return m_rollRequested; }
+
+void RollLabel::upateLabelRollingState()
+{
+    QFontMetrics const fm(font());
+    m_textWidth = fm.horizontalAdvance(m_itemName);
+    if (m_width < m_textWidth && m_rolling && m_rollRequested) {
+        m_offset = 0;
+        m_gapText = QStringLiteral(" ");
+        m_gapWidth = fm.horizontalAdvance(m_gapText);
+        m_paintText = m_itemName + m_gapText + m_itemName;
+        m_timer->start(m_interval);
+    } else {
+        m_rolling = false;
+        m_timer->stop();
+        m_paintText.clear();
+    }
+}
+
+void RollLabel::updateText()
+{
+    int const next = m_offset + m_step;
+    m_offset = next > m_textWidth + m_gapWidth ? 0 : next;
+    update();
+}
+
+void RollLabel::paintEvent(QPaintEvent* event)
+{
+    if (!isRolling()) {
+        QLabel::paintEvent(event);
+        return;
+    }
+    QPainter painter(this);
+    painter.setClipRect(rect());
+    painter.setFont(font());
+    painter.setPen(palette().color(foregroundRole()));
+    QRect const r = contentsRect().translated(-m_offset, 0);
+    painter.drawText(QRect(r.x(), r.y(), m_textWidth * 2 + m_gapWidth + 1, r.height()),
+                     Qt::AlignVCenter | Qt::AlignLeft, m_paintText);
+}
+
+void RollLabel::resizeEvent(QResizeEvent* event) { QWidget::resizeEvent(event); }
+
+void RollLabel::changeEvent(QEvent* event)
+{
+    QLabel::changeEvent(event);
+    if (event->type() == QEvent::FontChange && m_width >= 1 && !m_sourceText.isEmpty() && pixmap() == nullptr)
+        setTextLabel(m_sourceText, m_rollRequested);
+}
+
+bool RollLabel::isRolling() const { return m_rolling && m_timer->isActive(); }
+int RollLabel::scrollOffset() const { return m_offset; }
+int RollLabel::textWidth() const { return m_textWidth; }
+int RollLabel::gapWidth() const { return m_gapWidth; }
+int RollLabel::storedWidth() const { return m_width; }
+QString RollLabel::itemName() const { return m_itemName; }
+QTimer* RollLabel::rollTimer() const { return m_timer; }

@@ -1,0 +1,150 @@
+#include "gallerywindow.h"
+
+#include "galleryhost.h"
+#include "itempage.h"
+#include "pages.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+GalleryWindow::GalleryWindow(GalleryContext& context, QString const& pluginText, QWidget* parent)
+    : QWidget(parent), m_context(context), m_pluginText(pluginText)
+{
+    setObjectName(QStringLiteral("galleryWindow"));
+    setWindowTitle(QStringLiteral("lcdgallery"));
+    setFixedSize(kWidth, kHeight);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+
+    auto* header = new QWidget(this);
+    header->setObjectName(QStringLiteral("galleryHeader"));
+    header->setFixedHeight(44);
+    auto* headerLayout = new QHBoxLayout(header);
+    headerLayout->setContentsMargins(16, 0, 16, 0);
+    m_title = new QLabel(header);
+    m_title->setObjectName(QStringLiteral("galleryTitle"));
+    m_plugin = new QLabel(header);
+    m_plugin->setObjectName(QStringLiteral("galleryPlugin"));
+    headerLayout->addWidget(m_title);
+    headerLayout->addStretch();
+    headerLayout->addWidget(m_plugin);
+    layout->addWidget(header);
+
+    m_stack = new QStackedWidget(this);
+    layout->addWidget(m_stack, 1);
+    for (PageInfo const& info : galleryPages()) {
+        ItemPage* p = info.build(context);
+        m_stack->addWidget(p);
+        m_ids << info.id;
+        connect(p, &ItemPage::statusMessage, this, &GalleryWindow::setStatus);
+    }
+
+    m_status = new QLabel(this);
+    m_status->setObjectName(QStringLiteral("galleryFooter"));
+    m_status->setFixedHeight(30);
+    layout->addWidget(m_status);
+
+    showPage(0);
+}
+
+int GalleryWindow::pageCount() const { return m_stack->count(); }
+
+ItemPage* GalleryWindow::page(int index) const { return qobject_cast<ItemPage*>(m_stack->widget(index)); }
+
+QString GalleryWindow::pageId(int index) const { return m_ids.value(index); }
+
+int GalleryWindow::currentPage() const { return m_stack->currentIndex(); }
+
+void GalleryWindow::showPage(int index)
+{
+    if (index < 0 || index >= pageCount())
+        return;
+    m_stack->setCurrentIndex(index);
+    page(index)->activate();
+    updateHeader();
+    setStatus(tr("\u2191\u2193 turn   PgUp/PgDn fast   Enter press   Esc back   \u2190\u2192 page   [ ] T-bar"));
+}
+
+void GalleryWindow::updateHeader()
+{
+    int const i = currentPage();
+    m_title->setText(tr("%1   <span style=\"color:#8a8f98\">%2 / %3</span>")
+                         .arg(page(i)->title())
+                         .arg(i + 1)
+                         .arg(pageCount()));
+    m_plugin->setText(tr("%1   T-bar %2").arg(m_pluginText).arg(m_context.host->keyboard().position()));
+}
+
+void GalleryWindow::setStatus(QString const& text) { m_status->setText(text); }
+
+int GalleryWindow::renderScreenshots(QString const& dir)
+{
+    QDir().mkpath(dir);
+    int written = 0;
+    for (int i = 0; i < pageCount(); ++i) {
+        showPage(i);
+        ItemPage* p = page(i);
+        if (p->screenshotSetup)
+            p->screenshotSetup();
+        // Tall pages are rendered whole.
+        int const needed = 44 + 30 + p->contentHeight();
+        setFixedSize(kWidth, qMax(kHeight, needed));
+        QApplication::processEvents();
+        QString const file = QDir(dir).filePath(QStringLiteral("%1-%2.png").arg(i + 1, 2, 10, QLatin1Char('0')).arg(pageId(i)));
+        if (grab().save(file))
+            ++written;
+        setFixedSize(kWidth, kHeight);
+    }
+    return written;
+}
+
+KnobKeyboard::KnobKeyboard(GalleryWindow* window, GalleryContext& context) : m_window(window), m_context(context) {}
+
+bool KnobKeyboard::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease)
+        return QObject::eventFilter(watched, event);
+    auto* key = static_cast<QKeyEvent*>(event);
+    QWidget* focus = QApplication::focusWidget();
+    if (!focus || watched != focus)
+        return QObject::eventFilter(watched, event);
+
+    switch (key->key()) {
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown: {
+        // A fast knob turn: the same key as a slow one, with the level in the text.
+        QKeyEvent turn(key->type(), key->key() == Qt::Key_PageUp ? Qt::Key_Up : Qt::Key_Down, Qt::NoModifier,
+                       QString::fromLatin1(kFastLevel), key->isAutoRepeat());
+        QApplication::sendEvent(focus, &turn);
+        return true;
+    }
+    case Qt::Key_Left:
+    case Qt::Key_Right: {
+        ItemPage* page = m_window->page(m_window->currentPage());
+        if (page && focus == page->list()) {
+            if (event->type() == QEvent::KeyPress) {
+                int const n = m_window->pageCount();
+                m_window->showPage((m_window->currentPage() + (key->key() == Qt::Key_Right ? 1 : n - 1)) % n);
+            }
+            return true;
+        }
+        break;
+    }
+    case Qt::Key_BracketLeft:
+    case Qt::Key_BracketRight:
+        if (event->type() == QEvent::KeyPress) {
+            m_context.host->keyboard().move(key->key() == Qt::Key_BracketRight ? 25 : -25);
+            m_window->updateHeader();
+        }
+        return true;
+    default:
+        break;
+    }
+    return QObject::eventFilter(watched, event);
+}

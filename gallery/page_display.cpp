@@ -1,0 +1,13 @@
+#include "gallerycontext.h"
+#include "itempage.h"
+#include "pages.h"
+
+#include <lcdwidgets.h>
+
+ItemPage* buildDisplayPage(GalleryContext&)
+{
+    auto* page = new ItemPage(QObject::tr("Display"));
+    page->addSection(QObject::tr("Display items arrive here."));
+    page->addStretch();
+    return page;
+}

@@ -1,0 +1,10 @@
+#include "pages.h"
+
+QList<PageInfo> galleryPages()
+{
+    return {
+        {QStringLiteral("items"), buildItemsPage},
+        {QStringLiteral("display"), buildDisplayPage},
+        {QStringLiteral("numbers"), buildNumbersPage},
+    };
+}

@@ -1,0 +1,22 @@
+// The gallery's pages, one builder per page file.
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <functional>
+
+class ItemPage;
+struct GalleryContext;
+
+struct PageInfo
+{
+    QString id;    // file-name part of the page's screenshot
+    std::function<ItemPage*(GalleryContext&)> build;
+};
+
+// Every page, in the order the gallery shows them.
+QList<PageInfo> galleryPages();
+
+ItemPage* buildItemsPage(GalleryContext& context);
+ItemPage* buildDisplayPage(GalleryContext& context);
+ItemPage* buildNumbersPage(GalleryContext& context);
