@@ -4,10 +4,11 @@
 
 #include <lcdwidgets.h>
 
-ItemPage* buildDisplayPage(GalleryContext&)
+ItemPage* buildDisplayPage(GalleryContext& context)
 {
     auto* page = new ItemPage(QObject::tr("Display"));
     page->addSection(QObject::tr("Display items arrive here."));
+    addBarSection(page, context);
     page->addStretch();
     return page;
 }

@@ -4,10 +4,11 @@
 
 #include <lcdwidgets.h>
 
-ItemPage* buildNumbersPage(GalleryContext&)
+ItemPage* buildNumbersPage(GalleryContext& context)
 {
     auto* page = new ItemPage(QObject::tr("Numbers"));
     page->addSection(QObject::tr("Numeric rows arrive here."));
+    addProgressSection(page, context);
     page->addStretch();
     return page;
 }

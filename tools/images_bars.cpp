@@ -1,0 +1,9 @@
+#include "themeimages.h"
+
+namespace themeimages {
+
+void addBarImages(ImageTable&)
+{
+}
+
+} // namespace themeimages

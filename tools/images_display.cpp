@@ -1,0 +1,9 @@
+#include "themeimages.h"
+
+namespace themeimages {
+
+void addDisplayImages(ImageTable&)
+{
+}
+
+} // namespace themeimages
