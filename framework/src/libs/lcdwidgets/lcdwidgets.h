@@ -2,6 +2,12 @@
 #pragma once
 
 #include "lcdwidgets_global.h"
+
+// Host interfaces
+#include <dov/api.h>
+#include <lcd/ihomeframe.h>
+#include <lcd/keyboardproxy.h>
+
 #include "pluginentry.h"
 #include "lcdconstants.h"
 #include "lcdenums.h"
