@@ -73,6 +73,8 @@ void ItemPage::addWidget(QWidget* widget, bool selectable, std::function<void()>
         widget->setParent(m_list);
     m_layout->addWidget(widget);
     if (selectable) {
+        // Plain widgets paint a style-sheet background only when asked to.
+        widget->setAttribute(Qt::WA_StyledBackground, true);
         widget->setProperty("galleryCurrent", false);
         m_entries.append({widget, nullptr, std::move(select)});
     }

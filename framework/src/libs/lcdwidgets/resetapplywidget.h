@@ -1,0 +1,126 @@
+// Reset/apply buttons at the end of a page.
+//
+// ResetApplyWidget: the bar the knob walks through. With both buttons, Up on Reset
+// moves the focus to Apply and Down on Apply moves it back; Up on Apply (and Up in
+// a one-button bar) is handed to the event filter of the widget given to the
+// constructor, normally the page, which then moves its own current row. Every other
+// key press on the buttons is swallowed, so the knob never leaks past the bar.
+//
+// TypeReset, TypeApply and TypeResetApply: plain rows with the same buttons that
+// only turn clicks into signals.
+#pragma once
+
+#include "lcdenums.h"
+#include "lcdwidgets_global.h"
+
+#include <QWidget>
+#include <memory>
+
+class QPushButton;
+
+namespace LCD {
+namespace Widget {
+
+class LCDWIDGETS_EXPORT ResetApplyWidget : public QWidget
+{
+    Q_OBJECT
+public:
+    // `type` 1: Reset only, 2: Apply only, 3: both. The bar is created without a
+    // parent (the page's layout places it); `parent` is kept as the widget whose
+    // event filter receives the keys the bar hands over.
+    explicit ResetApplyWidget(Enum::ResetApplyButtonType type, QWidget* parent = nullptr);
+    ~ResetApplyWidget() override;
+
+    // The left-most button: Reset, or Apply in an Apply-only bar.
+    QPushButton* getfirstButton();
+    // The Reset button; null in an Apply-only bar.
+    QPushButton* getResetButton();
+    // The Apply button; null in a Reset-only bar.
+    QPushButton* getApplyButton();
+
+    // Enables or disables every button of the bar.
+    void setEnable(bool enable);
+    bool getEnable() const;
+    // Re-polishes both buttons (after a style property of theirs changed).
+    void polishBtnStyle();
+    void retranslateUi();
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+signals:
+    void signalResetBtnClicked();
+    void signalApplyBtnClicked();
+    void signalBackBtnClicked();
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    bool handOver(QObject* watched, QEvent* event);
+
+    struct Impl;
+    std::unique_ptr<Impl> d;
+};
+
+// A row with a single, centred Reset button.
+class LCDWIDGETS_EXPORT TypeReset : public QWidget
+{
+    Q_OBJECT
+public:
+    explicit TypeReset(QWidget* parent = nullptr);
+    QPushButton* resetButton() const { return m_reset; }
+    void retranslateUi();
+
+signals:
+    void signalResetBtnClicked();
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    QPushButton* m_reset = nullptr;
+};
+
+// A row with a single, centred Apply button.
+class LCDWIDGETS_EXPORT TypeApply : public QWidget
+{
+    Q_OBJECT
+public:
+    explicit TypeApply(QWidget* parent = nullptr);
+    QPushButton* applyButton() const { return m_apply; }
+    void retranslateUi();
+
+signals:
+    void signalApplyBtnClicked();
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    QPushButton* m_apply = nullptr;
+};
+
+// A row with Reset and Apply side by side, centred.
+class LCDWIDGETS_EXPORT TypeResetApply : public QWidget
+{
+    Q_OBJECT
+public:
+    explicit TypeResetApply(QWidget* parent = nullptr);
+    QPushButton* resetButton() const { return m_reset; }
+    QPushButton* applyButton() const { return m_apply; }
+    void retranslateUi();
+
+signals:
+    void signalResetBtnClicked();
+    void signalApplyBtnClicked();
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    QPushButton* m_reset = nullptr;
+    QPushButton* m_apply = nullptr;
+};
+
+} // namespace Widget
+} // namespace LCD
