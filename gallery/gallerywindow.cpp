@@ -53,6 +53,13 @@ GalleryWindow::GalleryWindow(GalleryContext& context, QString const& pluginText,
     showPage(0);
 }
 
+GalleryWindow::~GalleryWindow()
+{
+    // Pages torn down after this point must not report to a half-destroyed window.
+    for (int i = 0; i < pageCount(); ++i)
+        page(i)->disconnect(this);
+}
+
 int GalleryWindow::pageCount() const { return m_stack->count(); }
 
 ItemPage* GalleryWindow::page(int index) const { return qobject_cast<ItemPage*>(m_stack->widget(index)); }

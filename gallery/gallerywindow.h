@@ -18,6 +18,7 @@ public:
     static constexpr int kHeight = 480;
 
     GalleryWindow(GalleryContext& context, QString const& pluginText, QWidget* parent = nullptr);
+    ~GalleryWindow() override;
 
     int pageCount() const;
     ItemPage* page(int index) const;

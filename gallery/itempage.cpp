@@ -5,6 +5,7 @@
 
 #include <QKeyEvent>
 #include <QLabel>
+#include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QVBoxLayout>
@@ -44,7 +45,12 @@ void ItemPage::addItem(CommonItemType* item, int height)
 {
     if (item->parentWidget() != m_list)
         item->setParent(m_list);
-    item->setItemTitleWidth(itemWidth());
+    // The row's width rules leave the left icon out: the host gives such rows the
+    // width beside the icon.
+    int width = itemWidth();
+    if (auto* icon = item->findChild<QPushButton*>(QStringLiteral("itemLeftIconButton")); icon && !icon->isHidden())
+        width -= icon->width() + 4;
+    item->setItemTitleWidth(width);
     item->setItemHeight(height);
     item->setContentFontSize(kFontSize);
     item->setFixedHeight(height);

@@ -9,13 +9,11 @@
 
 using namespace themeimages;
 
-namespace {
-
+namespace themeimages {
 // Animated images: GIF writing is not part of Qt's image plug-ins; an animation
 // is written by writeGif() (see gifwriter.cpp).
 bool writeGif(QString const& file, Image const& image);
-
-} // namespace
+} // namespace themeimages
 
 int main(int argc, char** argv)
 {
@@ -51,12 +49,3 @@ int main(int argc, char** argv)
     }
     return failures == 0 ? 0 : 1;
 }
-
-namespace {
-
-bool writeGif(QString const&, Image const&)
-{
-    return false; // provided together with the first animated image
-}
-
-} // namespace

@@ -42,8 +42,9 @@ void RollLabel::setTextLabel(QString const& text, bool roll)
 void RollLabel::setCalTextLabel(QString const& text, int width, bool roll)
 {
     m_itemName = text;
-    int const third = (2 * width) / 3;
-    m_width = qMin(third, QFontMetrics(font()).horizontalAdvance(text));
+    // Two thirds of the row, computed wide so that any int width is safe.
+    qint64 const third = (2 * static_cast<qint64>(width)) / 3;
+    m_width = static_cast<int>(qMin<qint64>(third, QFontMetrics(font()).horizontalAdvance(text)));
     setTextLabel(text, roll);
 }
 

@@ -1,0 +1,86 @@
+#include "typemainbutton.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+
+namespace LCD {
+namespace Widget {
+
+struct TypeMainButton::Impl
+{
+    int pageWidth = -1; // the width the page gives, before the icons are taken off
+};
+
+TypeMainButton::TypeMainButton(QWidget* parent) : CommonItemType(parent), d(std::make_unique<Impl>())
+{
+    createWidget();
+}
+
+TypeMainButton::~TypeMainButton() = default;
+
+void TypeMainButton::fitTitle()
+{
+    if (d->pageWidth < 0)
+        return;
+    int const gap = rowLayout()->spacing();
+    int icons = 0;
+    if (!leftIconButton()->isHidden())
+        icons += leftIconButton()->minimumWidth() + gap;
+    if (!rightIconButton()->isHidden())
+        icons += rightIconButton()->minimumWidth() + gap;
+    CommonItemType::setItemTitleWidth(qMax(0, d->pageWidth - icons));
+    if (!itemTitle().isEmpty())
+        setItemTitleRoll(itemTitle(), getLabelRoll());
+}
+
+void TypeMainButton::setItemTitleWidth(int width)
+{
+    d->pageWidth = width;
+    fitTitle();
+}
+
+void TypeMainButton::setLeftIconSize(QSize size)
+{
+    CommonItemType::setLeftIconSize(size);
+    fitTitle();
+}
+
+void TypeMainButton::setRightIconSize(QSize size)
+{
+    CommonItemType::setRightIconSize(size);
+    fitTitle();
+}
+
+void TypeMainButton::createWidget()
+{
+    // The row's own title and icon buttons are the whole entry; the right icon shows
+    // once the page gives it a size and a look.
+    setRollLabelStretchMax();
+    setRightIconButtonHide(true);
+}
+
+void TypeMainButton::setContentDisabled(bool) const {}
+
+struct TypeItemNull::Impl
+{
+    QVariant userData;
+};
+
+TypeItemNull::TypeItemNull(QWidget* parent) : CommonItemType(parent), d(std::make_unique<Impl>()) { createWidget(); }
+
+TypeItemNull::~TypeItemNull() = default;
+
+void TypeItemNull::createWidget()
+{
+    setRightIconButtonHide(true);
+    setItemTitleProperty("AboutTextEdit", true);
+}
+
+void TypeItemNull::setContentDisabled(bool) const {}
+
+void TypeItemNull::setItemData(QVariant data) { d->userData = data; }
+
+QVariant TypeItemNull::getUserData() const { return d->userData; }
+
+} // namespace Widget
+} // namespace LCD
