@@ -159,7 +159,7 @@ void ItemPage::editEnded(QString const& why)
     m_editing = false;
     emit statusMessage(why);
     // The row returns the focus to its parent; make sure the list has the knob again.
-    if (m_entries.value(m_current).item)
+    if (m_entries.value(m_current).item && isVisible())
         m_list->setFocus(Qt::OtherFocusReason);
 }
 

@@ -7,6 +7,7 @@
 
 #include <lcdwidgets.h>
 
+#include <QCoreApplication>
 #include <QStringList>
 #include <memory>
 
@@ -124,6 +125,9 @@ ItemPage* buildNumbersPage(GalleryContext& context)
     // The picture shows an edit in progress: the rotation box with its focus frame,
     // the digits of a negative value selected.
     page->screenshotSetup = [page, rotation] {
+        // Let edits left open on other pages wind up first (they end on a queued call
+        // and hand the focus back to their own page).
+        QCoreApplication::processEvents();
         page->activate();
         page->setCurrentIndex(1);
         rotation->editValue();

@@ -21,5 +21,29 @@
 
 // Display items and bars
 // (one line per header, kept in the order the classes build on each other)
+#include "displaytext.h"
+#include "typeitemtext.h"
+#include "typeitemvalue.h"
+#include "typekeyvaluetext.h"
+#include "typeitemtip.h"
+#include "typeitemtick.h"
+#include "typeitemarrow.h"
+#include "typeitemmore.h"
+#include "typemainbutton.h"
+#include "typeitemlinewrap.h"
+#include "typemultitemtext.h"
+#include "typeitembuttom.h"
+#include "typeitemedit.h"
+#include "bottombuttomframe.h"
+#include "resetapplywidget.h"
+#include "progressbarctr.h"
 
 // Value editors
+#include "lcdspinbox.h"
+#include "typeintadjust.h"
+#include "typefloatadjust.h"
+#include "typeintadjustslider.h"
+#include "nqduallineedit.h"
+#include "typedualint.h"
+#include "extendspinbox.h"
+#include "typespinadjust.h"

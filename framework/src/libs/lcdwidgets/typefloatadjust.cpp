@@ -1,0 +1,119 @@
+#include "typefloatadjust.h"
+
+#include "lcdspinbox.h"
+#include "stylehelper.h"
+#include "typeintadjust.h"
+
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <cmath>
+
+namespace LCD {
+namespace Widget {
+
+struct TypeFloatAdjust::Impl
+{
+    NQDoubleSpinBox* spinBox = nullptr;
+    QLabel* valueLabel = nullptr;
+};
+
+TypeFloatAdjust::TypeFloatAdjust(SuffixType suffix, QuitStrategy quit, QWidget* parent, int commonWidgetType)
+    : CommonItemType(parent), d(std::make_unique<Impl>())
+{
+    d->spinBox = new NQDoubleSpinBox(suffix, quit, dynamicFrame());
+    d->valueLabel = new QLabel(dynamicFrame());
+    d->valueLabel->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    d->valueLabel->setProperty("isLabelValueText", true);
+    d->valueLabel->hide();
+
+    setStyleProperty(rightIconButton(), "isIconListEdit", true);
+    if (commonWidgetType == 14) {
+        rightIconButton()->hide();
+        d->spinBox->setProperty("isMultipleSpinBox", true);
+        d->spinBox->setAlignment(Qt::AlignLeft);
+    }
+    d->spinBox->setProperty("commonWidgetType", commonWidgetType);
+
+    dynamicLayout()->addStretch();
+    dynamicLayout()->addWidget(d->spinBox);
+    dynamicLayout()->addWidget(d->valueLabel);
+    d->spinBox->installEventFilter(this);
+
+    connect(d->spinBox, &NQDoubleSpinBox::editFinished, this, [this](Qt::FocusReason) {
+        returnFocusToParent(this);
+        emit signalEditFinished();
+    });
+    connect(d->spinBox, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this,
+            [this](double v) { emit signalValueChanged(QVariant(v)); });
+}
+
+TypeFloatAdjust::~TypeFloatAdjust() = default;
+
+bool TypeFloatAdjust::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+        if (QWidget* parent = parentWidget())
+            parent->setFocus(Qt::OtherFocusReason);
+        else
+            d->spinBox->clearFocus();
+        emit signalCloseEditStatus();
+        return true;
+    }
+    if (event->type() == QEvent::KeyRelease)
+        return true;
+    return QObject::eventFilter(watched, event);
+}
+
+void TypeFloatAdjust::setLabelValue(QVariant value, int) { d->spinBox->setValueByManual(value.toDouble()); }
+
+QVariant TypeFloatAdjust::getLabelValue() { return QVariant(d->spinBox->value()); }
+
+void TypeFloatAdjust::editValue()
+{
+    d->spinBox->setFocus(Qt::TabFocusReason);
+    CommonItemType::editValue();
+    emit signalEditStarted();
+}
+
+void TypeFloatAdjust::setRange(float minimum, float maximum)
+{
+    d->spinBox->setRange(static_cast<double>(minimum), static_cast<double>(maximum));
+}
+
+void TypeFloatAdjust::setRange(int minimum, int maximum)
+{
+    d->spinBox->blockSignals(true);
+    d->spinBox->setRange(minimum, maximum);
+    d->spinBox->blockSignals(false);
+}
+
+void TypeFloatAdjust::setSingleStep(float step)
+{
+    double const s = static_cast<double>(step);
+    if (!(s >= 1e-6) || s > d->spinBox->maximum() - d->spinBox->minimum()) // NaN fails the first test
+        return;
+    d->spinBox->setSingleStep(s);
+}
+
+void TypeFloatAdjust::setContentDisabled(bool disabled) const
+{
+    d->spinBox->setDisabled(disabled);
+    d->valueLabel->setDisabled(disabled);
+}
+
+void TypeFloatAdjust::setContentFontSize(int size)
+{
+    CommonItemType::setContentFontSize(size);
+    d->spinBox->setStyleSheet(
+        QStringLiteral("QAbstractSpinBox{font-size:%1px; border-radius:%2px; }").arg(size).arg(itemHeight() / 9));
+    d->spinBox->setFixedWidth(3 * size);
+}
+
+void TypeFloatAdjust::setDecimals(int decimals) { d->spinBox->setDecimals(decimals); }
+
+int TypeFloatAdjust::getCommonWidgetType() const { return d->spinBox->property("commonWidgetType").toInt(); }
+
+} // namespace Widget
+} // namespace LCD

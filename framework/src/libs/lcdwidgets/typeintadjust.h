@@ -1,0 +1,76 @@
+// Item row that sets an integer with the knob through an NQSpinBox. Values are live:
+// every knob step is reported at once, Escape keeps the value that was reached.
+//
+// Variants (commonWidgetType, also the spin box's focus-frame mode):
+//   1  framed input box with the edit icon on the right ("isCompomentsSpinBoxInput")
+//   2  left-aligned value without the right icon ("isMultipleSpinBox")
+//   other values: the plain row; 3 draws the focus frame like 1.
+#pragma once
+
+#include "commonitemtype.h"
+#include "lcdenums.h"
+#include "lcdwidgets_global.h"
+
+#include <memory>
+
+namespace LCD {
+namespace Widget {
+
+class NQSpinBox;
+
+class LCDWIDGETS_EXPORT TypeIntAdjust : public CommonItemType
+{
+    Q_OBJECT
+public:
+    TypeIntAdjust(SuffixType suffix, QuitStrategy quit, QWidget* parent = nullptr, int commonWidgetType = 0);
+    ~TypeIntAdjust() override;
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void setLabelValue(QVariant value, int mode = 0) override;
+    QVariant getLabelValue() override;
+    void editValue() override;
+    void setRange(float minimum, float maximum) override;
+    void setRange(int minimum, int maximum) override;
+    // Ignored unless 0 < step <= maximum - minimum; the step is truncated toward zero.
+    void setSingleStep(float step) override;
+    void setContentDisabled(bool disabled) const override;
+    void setContentFontSize(int size) override;
+
+    // Minimum without re-sizing the box (the width follows the maximum).
+    void setRangeMin(int minimum);
+    void setRangeMax(int maximum);
+    // Shows the spin box, or the value label in its place.
+    void setSpinBoxShow(bool show);
+    void setLabelText(QString const& text);
+    void setSuffixType(SuffixType type);
+    void setRoundOff(bool on);
+    // Fixed width from the longer of the bounds' texts and the content font size.
+    void setSpinBoxWidth();
+    int getCommonWidgetType() const;
+
+    // The row's value as last reported (an int).
+    QVariant currentValue() const;
+
+private:
+    void createWidgets(SuffixType suffix, QuitStrategy quit, int commonWidgetType);
+    void createConnections();
+    QString fontSheet() const;
+
+    struct Impl;
+    std::unique_ptr<Impl> d;
+};
+
+// Width rule shared by the integer rows: the characters of the longer bound's
+// decimal text (minus sign included) plus one, then font + (chars / 2) * font.
+LCDWIDGETS_EXPORT int intSpinBoxWidth(int minimum, int maximum, int fontSize);
+
+// End of an edit inside `row`: the row's parent widget takes the focus back, unless
+// the focus has already gone to a widget outside the row (then it stays there).
+LCDWIDGETS_EXPORT void returnFocusToParent(QWidget* row);
+
+// A float bound or step truncated toward zero; NaN gives 0, values beyond the int
+// range give its limits.
+LCDWIDGETS_EXPORT int truncateToInt(float value);
+
+} // namespace Widget
+} // namespace LCD
