@@ -12,7 +12,7 @@
 #include "themeimages.h"
 
 #include <QFile>
-#include <QHash>
+#include <map>
 #include <algorithm>
 #include <array>
 #include <cstdint>
@@ -79,7 +79,7 @@ struct Box
 
 std::vector<QRgb> buildPalette(std::vector<QImage> const& frames)
 {
-    QHash<QRgb, int> histogram;
+    std::map<QRgb, int> histogram; // ordered: the palette is the same on every run
     for (QImage const& f : frames)
         for (int y = 0; y < f.height(); ++y) {
             auto const* line = reinterpret_cast<QRgb const*>(f.constScanLine(y));
@@ -89,13 +89,13 @@ std::vector<QRgb> buildPalette(std::vector<QImage> const& frames)
         }
     std::vector<QRgb> palette;
     if (histogram.size() <= kPaletteColours) {
-        for (auto it = histogram.cbegin(); it != histogram.cend(); ++it)
-            palette.push_back(it.key());
+        for (auto const& [colour, count] : histogram)
+            palette.push_back(colour);
         return palette;
     }
     std::vector<Box> boxes(1);
-    for (auto it = histogram.cbegin(); it != histogram.cend(); ++it)
-        boxes[0].colours.emplace_back(it.key(), it.value());
+    for (auto const& [colour, count] : histogram)
+        boxes[0].colours.emplace_back(colour, count);
     while (int(boxes.size()) < kPaletteColours) {
         // Split the box with the widest channel range.
         int best = -1, bestRange = 0, bestChannel = 0;
@@ -117,7 +117,7 @@ std::vector<QRgb> buildPalette(std::vector<QImage> const& frames)
         auto channel = [bestChannel](QRgb c) {
             return bestChannel == 0 ? qRed(c) : bestChannel == 1 ? qGreen(c) : qBlue(c);
         };
-        std::sort(cs.begin(), cs.end(), [&](auto const& a, auto const& b) { return channel(a.first) < channel(b.first); });
+        std::stable_sort(cs.begin(), cs.end(), [&](auto const& a, auto const& b) { return channel(a.first) < channel(b.first); });
         // Median by pixel count, keeping at least one colour on each side.
         long total = 0;
         for (auto const& c : cs)
