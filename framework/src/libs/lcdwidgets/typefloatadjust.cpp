@@ -53,15 +53,7 @@ TypeFloatAdjust::~TypeFloatAdjust() = default;
 
 bool TypeFloatAdjust::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
-        if (QWidget* parent = parentWidget())
-            parent->setFocus(Qt::OtherFocusReason);
-        else
-            d->spinBox->clearFocus();
-        emit signalCloseEditStatus();
-        return true;
-    }
-    if (event->type() == QEvent::KeyRelease)
+    if (filterSpinRowKeys(this, d->spinBox, event))
         return true;
     return QObject::eventFilter(watched, event);
 }

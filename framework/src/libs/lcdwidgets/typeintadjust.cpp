@@ -26,6 +26,21 @@ void returnFocusToParent(QWidget* row)
         parent->setFocus(Qt::OtherFocusReason);
 }
 
+bool filterSpinRowKeys(CommonItemType* row, QWidget* editor, QEvent* event)
+{
+    if (event->type() == QEvent::KeyRelease)
+        return true;
+    if (event->type() != QEvent::KeyPress || static_cast<QKeyEvent*>(event)->key() != Qt::Key_Escape)
+        return false;
+    // The focus loss ends the spin box's own edit.
+    if (QWidget* parent = row->parentWidget())
+        parent->setFocus(Qt::OtherFocusReason);
+    else if (editor)
+        editor->clearFocus();
+    emit row->signalCloseEditStatus();
+    return true;
+}
+
 int truncateToInt(float v)
 {
     if (std::isnan(v))
@@ -122,16 +137,7 @@ QString TypeIntAdjust::fontSheet() const
 
 bool TypeIntAdjust::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
-        // Leaving keeps the value reached; the focus loss ends the spin box's edit.
-        if (QWidget* parent = parentWidget())
-            parent->setFocus(Qt::OtherFocusReason);
-        else
-            d->spinBox->clearFocus();
-        emit signalCloseEditStatus();
-        return true;
-    }
-    if (event->type() == QEvent::KeyRelease)
+    if (filterSpinRowKeys(this, d->spinBox, event))
         return true;
     return QObject::eventFilter(watched, event);
 }

@@ -68,6 +68,12 @@ LCDWIDGETS_EXPORT int intSpinBoxWidth(int minimum, int maximum, int fontSize);
 // the focus has already gone to a widget outside the row (then it stays there).
 LCDWIDGETS_EXPORT void returnFocusToParent(QWidget* row);
 
+// The keys of an edit in a spin-box row, for the row's event filter: Escape leaves
+// the edit keeping the value reached (the row's parent takes the focus back, or the
+// editor drops it when there is no parent) and emits signalCloseEditStatus();
+// key releases are swallowed. Returns true when the event was consumed.
+LCDWIDGETS_EXPORT bool filterSpinRowKeys(CommonItemType* row, QWidget* editor, QEvent* event);
+
 // A float bound or step truncated toward zero; NaN gives 0, values beyond the int
 // range give its limits.
 LCDWIDGETS_EXPORT int truncateToInt(float value);
