@@ -43,6 +43,9 @@ public:
     // Makes the list take the knob (the page has just been shown).
     void activate();
     int currentIndex() const { return m_current; }
+    int count() const { return m_entries.size(); }
+    // The row at `index`, or null for a plain widget or a bad index.
+    LCD::Widget::CommonItemType* itemAt(int index) const { return m_entries.value(index).item; }
     void setCurrentIndex(int index);
     bool isEditing() const { return m_editing; }
     // Height the page needs to show every row.

@@ -88,6 +88,7 @@ private slots:
     void intEditEndedByEnter();
     void keyReleasesStayInside();
     void nextEditKeepsItsFocus();
+    void noEditWithoutAnEditor();
 
     void floatRow();
     void floatEdit();
@@ -98,6 +99,26 @@ private slots:
     void spinAdjustKeys();
     void extendSpinBoxButtons();
 };
+
+void TestNumericItems::noEditWithoutAnEditor()
+{
+    // A row showing its label instead of the box, or a disabled row, has nothing to
+    // edit with: the press must not announce an edit that nothing could end.
+    Page page;
+    auto* labelled = page.add(new TypeIntAdjust(SuffixNone, QuitKeepValue, &page, 1));
+    labelled->setSpinBoxShow(false);
+    auto* disabled = page.add(new TypeFloatAdjust(SuffixNone, QuitKeepValue, &page, 1));
+    disabled->setContentEnabled(false);
+    for (CommonItemType* row : {static_cast<CommonItemType*>(labelled), static_cast<CommonItemType*>(disabled)}) {
+        QSignalSpy started(row, &CommonItemType::signalEditStarted);
+        row->editValue();
+        QCOMPARE(started.count(), 0);
+    }
+    labelled->setSpinBoxShow(true);
+    QSignalSpy started(labelled, &CommonItemType::signalEditStarted);
+    labelled->editValue();
+    QCOMPARE(started.count(), 1);
+}
 
 void TestNumericItems::intWidthRule_data()
 {

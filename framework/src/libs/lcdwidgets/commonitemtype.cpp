@@ -1,5 +1,8 @@
 #include "commonitemtype.h"
 
+#include "displaytext.h"
+
+#include <QDebug>
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -277,14 +280,8 @@ void CommonItemType::setRollLabelStretchMax()
 void CommonItemType::setItemSecondTitle(QString const& text, int maxWidth)
 {
     d->secondTitle = text;
-    QString shown = text;
-    if (maxWidth != 0) {
-        QString const elided =
-            d->secondTitleLabel->fontMetrics().elidedText(text, Qt::ElideRight, maxWidth);
-        if (elided != text)
-            shown = QStringLiteral("%1...").arg(elided.left(qMax(0, elided.size() - 3)));
-    }
-    d->secondTitleLabel->setText(shown);
+    // maxWidth 0 (or any width below 1) never elides.
+    d->secondTitleLabel->setText(elideWithDots(d->secondTitleLabel->fontMetrics(), text, maxWidth));
     notifyTextChanged();
 }
 
@@ -526,6 +523,14 @@ QPushButton* CommonItemType::rightIconButton() const { return d->rightIconButton
 RollLabel* CommonItemType::leftIconTitle() const { return d->leftIconTitle; }
 QLabel* CommonItemType::secondTitleLabel() const { return d->secondTitleLabel; }
 QLabel* CommonItemType::underLine() const { return d->underLine; }
+
+bool CommonItemType::canEdit(QWidget const* editor) const
+{
+    if (editor && !editor->isHidden() && editor->isEnabled())
+        return true;
+    qDebug().noquote() << "[item]" << d->itemTitle << ": no editor to edit with";
+    return false;
+}
 
 void CommonItemType::notifyTextChanged() const
 {

@@ -127,6 +127,10 @@ protected:
     RollLabel* leftIconTitle() const;
     QLabel* secondTitleLabel() const;
     QLabel* underLine() const;
+    // Whether `editor` can take the knob for an edit: it exists, is not hidden and is
+    // enabled. An edit that can't start must not be announced (the page would wait
+    // for its end forever).
+    bool canEdit(QWidget const* editor) const;
     // Runs the text-changed callback, if any.
     void notifyTextChanged() const;
 

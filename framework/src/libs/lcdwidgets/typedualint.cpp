@@ -51,6 +51,8 @@ QVariant TypeDualInt::getLabelValue() { return QVariant(d->editor->value()); }
 
 void TypeDualInt::editValue()
 {
+    if (!canEdit(d->editor))
+        return;
     d->editor->setFocus(Qt::TabFocusReason);
     CommonItemType::editValue();
 }

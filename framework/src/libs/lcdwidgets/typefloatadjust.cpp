@@ -64,6 +64,8 @@ QVariant TypeFloatAdjust::getLabelValue() { return QVariant(d->spinBox->value())
 
 void TypeFloatAdjust::editValue()
 {
+    if (!canEdit(d->spinBox))
+        return;
     d->spinBox->setFocus(Qt::TabFocusReason);
     CommonItemType::editValue();
     emit signalEditStarted();

@@ -154,6 +154,8 @@ QVariant TypeIntAdjust::currentValue() const { return d->value; }
 
 void TypeIntAdjust::editValue()
 {
+    if (!canEdit(d->spinBox))
+        return;
     d->spinBox->setFocus(Qt::TabFocusReason);
     CommonItemType::editValue();
     emit signalEditStarted();

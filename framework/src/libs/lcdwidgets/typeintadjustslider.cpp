@@ -94,6 +94,8 @@ QVariant TypeIntAdjustSlider::getLabelValue() { return QVariant(d->spinBox->valu
 
 void TypeIntAdjustSlider::editValue()
 {
+    if (!canEdit(d->spinBox))
+        return;
     d->spinBox->setFocus(Qt::TabFocusReason);
     CommonItemType::editValue();
     emit signalEditStarted();

@@ -53,7 +53,7 @@ QVariant TypeItemEdit::getLabelValue() { return d->edit->text(); }
 
 void TypeItemEdit::editValue()
 {
-    if (isEditing())
+    if (isEditing() || !canEdit(d->edit))
         return;
     setEdit(true);
     d->edit->setFocusPolicy(Qt::StrongFocus);
