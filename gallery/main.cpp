@@ -29,6 +29,8 @@ char const* const kHostStyle = R"(
 #galleryFooter { background: #1b2027; color: #8a8f98; font-size: 13px; padding-left: 16px; border-top: 1px solid #2c333d; }
 #gallerySection { color: #ff8a00; font-size: 13px; font-weight: 600; padding: 10px 8px 4px 8px; }
 QFrame[galleryCurrent="true"], QWidget[galleryCurrent="true"] { background: rgba(255, 138, 0, 0.12); border-radius: 6px; }
+QFrame[galleryTile="true"] { background: #1b2027; border-radius: 8px; }
+QFrame[galleryTile="true"] QLabel[itemTitleLabel="true"] { color: #c8ccd2; }
 QLabel[galleryValue="true"] { color: #c8ccd2; font-size: 18px; padding: 2px 8px; border-radius: 4px; }
 QLabel[galleryValue="true"]:disabled { color: rgba(255, 255, 255, 0.3); }
 QLabel[galleryEditing="true"] { color: #ffffff; border: 2px solid rgba(255, 255, 255, 0.8); }

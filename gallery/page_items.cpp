@@ -34,6 +34,18 @@ protected:
     QLabel* m_value;
 };
 
+// A home-screen tile: only the icon and its caption.
+class TileRow : public CommonItemType
+{
+public:
+    explicit TileRow(QWidget* parent) : CommonItemType(parent)
+    {
+        setRightIconButtonHide(true);
+        dynamicFrame()->hide();
+    }
+    void setContentDisabled(bool) const override {}
+};
+
 // A row that edits an integer with the knob: the press gives the editor the focus,
 // Up/Down change the value by the level, Escape or the press ends the edit.
 class KnobRow : public InfoRow
@@ -121,6 +133,37 @@ ItemPage* buildItemsPage(GalleryContext&)
     auto* disabled = iconRow(page, QStringLiteral("isIconSystem"), QStringLiteral("Factory reset (locked)"), QStringLiteral("Locked"));
     page->addItem(disabled);
     disabled->setContentEnabled(false);
+
+    // Tiles: the icon with its caption underneath, as on the home screen. The caption
+    // is the title without the words that every setting page would repeat.
+    page->addSection(QObject::tr("Icon tiles with captions"));
+    auto* tiles = new QWidget(page->list());
+    auto* tilesLayout = new QHBoxLayout(tiles);
+    tilesLayout->setContentsMargins(0, 4, 0, 4);
+    tilesLayout->setSpacing(12);
+    struct Tile
+    {
+        char const* icon;
+        char const* title;
+    };
+    for (Tile const& t : {Tile{"isIconNetwork", "网络设置"}, Tile{"isIconDisplay", "输出画面"},
+                          Tile{"isIconAudio", "Audio"}, Tile{"isIconSystem", "System"}}) {
+        auto* tile = new TileRow(tiles);
+        tile->setItemTitleWidth(150);
+        tile->setContentFontSize(ItemPage::kFontSize);
+        tile->setItemTitleLabelHide(true);
+        tile->setLeftIconButtonHide(false);
+        tile->setLeftIconButtonProperty(t.icon, true);
+        tile->setLeftIconSize(QSize(48, 48));
+        tile->setItemTitle(QString::fromUtf8(t.title));
+        tile->setLeftIconTitleHide(false);
+        tile->removeUnderLine();
+        tile->setFixedSize(150, 96);
+        tile->setProperty("galleryTile", true);
+        tilesLayout->addWidget(tile);
+    }
+    tilesLayout->addStretch();
+    page->addWidget(tiles);
 
     page->addStretch();
     return page;
