@@ -70,6 +70,7 @@ private slots:
     void underLine();
     void editKeys();
     void signalsOfTheBase();
+    void extremeSizesAreSafe();
 };
 
 void TestCommonItemType::skeleton()
@@ -428,6 +429,31 @@ void TestCommonItemType::signalsOfTheBase()
     row.setRollLabelStretchMax();
     QCOMPARE(row.rowLayout()->stretch(2), 1);
     QCOMPARE(row.rowLayout()->stretch(1), 0);
+}
+
+void TestCommonItemType::extremeSizesAreSafe()
+{
+    // Nonsense from a host must neither overflow (the sanitizer build aborts on it)
+    // nor hand Qt an impossible width.
+    Row row;
+    for (int width : {std::numeric_limits<int>::min(), -1, 0, std::numeric_limits<int>::max()}) {
+        for (int font : {-5, 0, 20, std::numeric_limits<int>::max()}) {
+            row.setItemTitleWidth(width);
+            row.setContentFontSize(font);
+            row.setItemTitle(QStringLiteral("Title"));
+            QVERIFY(row.getTitleLabel()->width() >= 0);
+            QVERIFY(row.getTitleLabel()->width() <= QWIDGETSIZE_MAX);
+            QCOMPARE(row.getWidgetRow(), 1);
+            QVERIFY(row.getLabelRow(row.getTitleLabel()) >= 1);
+            row.setLeftIconButtonHide(false);
+            row.setLeftIconTitleHide(false);
+            row.setLeftIconButtonHide(true);
+        }
+    }
+    row.setItemTitleWidth(500);
+    row.setContentFontSize(20);
+    row.setItemTitle(QStringLiteral("Title"));
+    QCOMPARE(row.getTitleLabel()->width(), 360);
 }
 
 QTEST_MAIN(TestCommonItemType)

@@ -69,6 +69,12 @@ void TestDisplayItems::editWithKnob()
     QSignalSpy started(row, &CommonItemType::signalEditStarted);
     QSignalSpy changed(row, &CommonItemType::signalValueChanged);
     QSignalSpy finished(row, &CommonItemType::signalEditFinished);
+    // The end of an edit: the focus is back on the page, then "closed", then "finished".
+    QStringList ends;
+    QObject::connect(row, &CommonItemType::signalCloseEditStatus, row, [&ends, &page] {
+        ends << QStringLiteral("close") + (QApplication::focusWidget() == &page ? "@page" : "");
+    });
+    QObject::connect(row, &CommonItemType::signalEditFinished, row, [&ends] { ends << QStringLiteral("finish"); });
 
     row->editValue();
     QCOMPARE(started.count(), 1);
@@ -95,6 +101,7 @@ void TestDisplayItems::editWithKnob()
     // The press ends the edit and hands the knob back to the page.
     QVERIFY(Knob::press(row));
     QCOMPARE(finished.count(), 1);
+    QCOMPARE(ends, (QStringList{"close@page", "finish"}));
     QVERIFY(!row->isEditing());
     QCOMPARE(QApplication::focusWidget(), &page);
 
@@ -106,6 +113,8 @@ void TestDisplayItems::editWithKnob()
     Knob::press(row, true);
     QCOMPARE(finished.count(), 3);
     QCOMPARE(started.count(), 3);
+    QCOMPARE(ends.count(QStringLiteral("close@page")), 3);
+    QCOMPARE(ends.size(), 6);
     QCOMPARE(row->getLabelValue().toString(), QStringLiteral("Studixo"));
 }
 
@@ -451,13 +460,31 @@ void TestDisplayItems::disabledRowsKeepTheirLook()
     null.setContentEnabled(false);
     QCOMPARE(null.getTitleLabel()->property("AboutTextEdit").toBool(), true);
 
-    // The main button keeps its title clear of its icons.
+    // The main button is the bare row: left icon hidden, right icon shown, so a page
+    // that only styles the right icon (an arrow) sees it.
     TypeMainButton entry;
+    auto* left = entry.findChild<QPushButton*>(QStringLiteral("itemLeftIconButton"));
+    auto* right = entry.findChild<QPushButton*>(QStringLiteral("itemRightIconButton"));
+    QVERIFY(left && right);
+    QVERIFY(left->isHidden());
+    QVERIFY(!right->isHidden());
+
+    // It keeps its title clear of its icons (4 px row spacing each).
+    entry.setRightIconSize(QSize(24, 24));
     entry.setItemTitleWidth(400);
-    QCOMPARE(entry.getItemWidth(), 400);
+    QCOMPARE(entry.getItemWidth(), 400 - 24 - 4);
     entry.setLeftIconButtonHide(false);
     entry.setLeftIconSize(QSize(32, 32));
+    QCOMPARE(entry.getItemWidth(), 400 - 24 - 4 - 32 - 4);
+    entry.setRightIconButtonHide(true);
+    QSignalSpy widthChanged(&entry, &CommonItemType::signalItemWidthChanged);
+    entry.setItemTitleWidth(400);
     QCOMPARE(entry.getItemWidth(), 400 - 32 - 4);
+    // A page that takes the width back (-1: unknown) is still heard.
+    entry.setItemTitleWidth(-1);
+    QCOMPARE(entry.getItemWidth(), -1);
+    QCOMPARE(widthChanged.count(), 2);
+    QCOMPARE(widthChanged.last().at(0).toInt(), -1);
 }
 
 void TestDisplayItems::extremeSizes()

@@ -12,6 +12,7 @@
 #include <QVBoxLayout>
 #include <QtTest>
 #include <cmath>
+#include <limits>
 
 using namespace LCD::Widget;
 
@@ -160,6 +161,8 @@ void TestNumericItems::intWidthFollowsTheMaximumOnly()
     QCOMPARE(spin->width(), 60);
     row->setRangeMax(200); // now the longer bound counts: 7 + 1 characters
     QCOMPARE(spin->width(), 100);
+    // A host font size near the int limit gives the widest box, not an overflow.
+    QCOMPARE(intSpinBoxWidth(-100000, 200, std::numeric_limits<int>::max()), QWIDGETSIZE_MAX);
 }
 
 void TestNumericItems::intVariants()
@@ -389,6 +392,17 @@ void TestNumericItems::floatRow()
     row->setRange(1.0f, 4.0f); // float bounds: the clamp is reported
     QCOMPARE(values.count(), 1);
     QCOMPARE(values.at(0).at(0), QVariant(4.0));
+
+    // NaN never becomes the value, neither as a bound nor as a value.
+    QTest::ignoreMessage(QtWarningMsg, "[TypeFloatAdjust] setRange: bounds nan, 5 are not finite, ignored");
+    row->setRange(std::nanf(""), 5.0f);
+    QTest::ignoreMessage(QtWarningMsg, "[TypeFloatAdjust] setRange: bounds 0, inf are not finite, ignored");
+    row->setRange(0.0f, std::numeric_limits<float>::infinity());
+    QTest::ignoreMessage(QtWarningMsg, "[knobspin] setValueByManual: value is not a number, ignored");
+    row->setLabelValue(QVariant(std::nan("")));
+    QCOMPARE(row->getLabelValue(), QVariant(4.0));
+    QCOMPARE(spin->minimum(), 1.0);
+    QCOMPARE(spin->committedValue(), 7.5); // as set last, before the clamp
 }
 
 void TestNumericItems::floatEdit()
@@ -496,6 +510,7 @@ void TestNumericItems::dualEdit()
     Knob::turn(row, 2);
     Knob::press(row); // to the second value
     QCOMPARE(editor->currentField(), 1);
+    QCOMPARE(page.released, 0); // the releases of the turns and the press stay in the editor
     Knob::turn(row, -1, 0.1); // a tenth of the range is 9: 9 - 9 = 0, clamped to 1
     Knob::press(row, true); // ends the edit
     QCOMPARE(rec.log, QStringList({"value:QSize:", "value:QSize:", "value:QSize:", "closed"}));

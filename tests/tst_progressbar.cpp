@@ -129,6 +129,15 @@ private slots:
         p.setCurrentValue(303);
         QCOMPARE(p.valueText(), QStringLiteral("101%"));
         QCOMPARE(colourOf(p), QColor(Qt::white));
+
+        // Past either end the bar shows its end, not the value it had before.
+        p.Clear();
+        p.setCurrentValue(450);
+        QCOMPARE(p.valueText(), QStringLiteral("150%"));
+        QCOMPARE(p.currentValue(), 300.0);
+        p.setCurrentValue(-20);
+        QCOMPARE(p.valueText(), QStringLiteral("-6%"));
+        QCOMPARE(p.currentValue(), 0.0);
     }
 
     void countZeroIsOneAndBadCounts()

@@ -234,6 +234,11 @@ void TestSpinBox::noWrapAndSnap()
     QCOMPARE(odd.value(), 98);
     Knob::turn(&odd, 1);
     QCOMPARE(odd.value(), 98);
+    // 3 - 2 = 1 snaps to 0 below the minimum: the box holds 1, and so does the commit.
+    odd.setValueByManual(3);
+    Knob::turn(&odd, -1);
+    QCOMPARE(odd.value(), 1);
+    QCOMPARE(odd.committedValue(), 1);
     // Negative values snap toward zero.
     NQSpinBox neg;
     neg.setRange(-99, 99);
@@ -561,6 +566,21 @@ void TestSpinBox::doubleStep()
     QCOMPARE(box.getStep(0.5f), 4000.0); // span capped at 8000
     box.setRange(0.0, 50.0);
     QCOMPARE(box.getStep(2.0f), 50.0); // capped at the maximum
+
+    // A maximum of 0 or below caps the step at nothing or less: one single step then,
+    // and a fast turn still moves the way it is turned.
+    box.setRange(-60.0, 0.0);
+    box.setSingleStep(0.5);
+    QCOMPARE(box.getStep(0.5f), 0.5);
+    box.setValueByManual(-30.0);
+    Knob::turn(&box, 1, 0.5);
+    QCOMPARE(box.value(), -29.5);
+    box.setRange(-60.0, -10.0);
+    QCOMPARE(box.getStep(0.5f), 0.5);
+    Knob::turn(&box, 1, 0.5);
+    QCOMPARE(box.value(), -29.0);
+    Knob::turn(&box, -1, 0.5);
+    QCOMPARE(box.value(), -29.5);
 }
 
 void TestSpinBox::doubleStepping()

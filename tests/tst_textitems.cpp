@@ -53,6 +53,7 @@ private slots:
     void rightDistanceCorrectionOnce();
     void multiTextLabels();
     void multiTextWidthSharing();
+    void multiTextRollBeforeWidth();
     void multiTextBadIndex();
     void elideWithDotsRule();
     void itemValueCutsWithDots();
@@ -374,6 +375,28 @@ void TestTextItems::multiTextWidthSharing()
     QCOMPARE(multi.label(0)->storedWidth(), 100);
 }
 
+void TestTextItems::multiTextRollBeforeWidth()
+{
+    // Hosts switch rolling on when they build the row, before the page knows its width.
+    TypeMultItemText multi;
+    multi.setContentFontSize(20);
+    multi.setRollLabel(true);
+    QString const c = QStringLiteral("Power supply B reports an output voltage below its lower limit");
+    multi.setLabelText(0, QStringLiteral("PSU B"));
+    multi.setLabelText(2, c);
+    QVERIFY(!multi.label(2)->isRolling()); // no width yet: shown as it is
+    multi.setLabelWidth(300);
+    QVERIFY(multi.label(2)->isRolling());
+    QCOMPARE(multi.label(2)->text(), c);
+    QVERIFY(!multi.label(0)->isRolling()); // fits its share
+    // A new text keeps rolling; switching off cuts it again.
+    multi.setLabelText(2, c + QStringLiteral(" (2)"));
+    QVERIFY(multi.label(2)->isRolling());
+    multi.setRollLabel(false);
+    QVERIFY(!multi.label(2)->isRolling());
+    QVERIFY(multi.label(2)->text().endsWith(QChar(0x2026)));
+}
+
 void TestTextItems::multiTextBadIndex()
 {
     TypeMultItemText multi;
@@ -394,6 +417,13 @@ void TestTextItems::multiTextBadIndex()
     QCOMPARE(check.label(1)->property("isValueText").toString(), QStringLiteral("pass"));
     QCOMPARE(check.getLabelValue().toString(), QStringLiteral("Pass"));
     QCOMPARE(check.label(0)->property("isSelfCheckValueText").toBool(), true);
+
+    // The result column is four font sizes wide, without overflowing on absurd sizes
+    // (the sanitizer build catches the overflow; Qt takes the widget limit as "none").
+    check.setContentFontSize(20);
+    QCOMPARE(check.label(1)->minimumWidth(), 80);
+    check.setContentFontSize(std::numeric_limits<int>::max() / 2);
+    QVERIFY(check.label(1)->minimumWidth() >= 0);
 }
 
 void TestTextItems::elideWithDotsRule()

@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <QTextLayout>
 #include <QVBoxLayout>
+#include <limits>
 
 namespace LCD {
 namespace Widget {
@@ -34,6 +35,20 @@ int layoutWidth(QWidget const* w)
     if (w->minimumWidth() == w->maximumWidth())
         return w->minimumWidth();
     return qBound(w->minimumWidth(), w->sizeHint().width(), w->maximumWidth());
+}
+
+// A widget width from 64-bit arithmetic: extreme item widths or font sizes can't
+// overflow, and Qt never sees a width it would refuse.
+int widgetWidth(qint64 w)
+{
+    return static_cast<int>(qBound<qint64>(0, w, QWIDGETSIZE_MAX));
+}
+
+// The title's width: never below twice the font size.
+int titleWidth(int itemWidth, int dynamicWidth, int fontSize)
+{
+    qint64 const f = fontSize;
+    return widgetWidth(qMax<qint64>(2 * f, qint64(itemWidth) - dynamicWidth - 2 * f));
 }
 
 } // namespace
@@ -149,14 +164,15 @@ int CommonItemType::getWidgetRow()
 {
     int dyn = 0;
     calDynamicLayoutWidth(dyn);
-    int const f = d->contentFontSize;
-    int w = qMax(2 * f, d->itemWidth - dyn - 2 * f);
+    qint64 const f = d->contentFontSize;
+    int w = titleWidth(d->itemWidth, dyn, d->contentFontSize);
     if (!d->itemTitle.isEmpty())
-        w = qMax(w, 4 * f);
+        w = widgetWidth(qMax<qint64>(w, 4 * f));
     d->titleLabel->setWidth(w);
     d->titleLabel->setItemName(d->itemTitle);
     d->titleLabel->setTextLabel(d->itemTitle, false);
-    d->dynamicMaxWidth = d->itemWidth - 4 * f;
+    d->dynamicMaxWidth = static_cast<int>(
+        qBound<qint64>(std::numeric_limits<int>::min(), qint64(d->itemWidth) - 4 * f, std::numeric_limits<int>::max()));
     return 1;
 }
 
@@ -228,8 +244,7 @@ void CommonItemType::setItemTitleRoll(QString const& text, bool roll)
 {
     int dyn = 0;
     calDynamicLayoutWidth(dyn);
-    int const f = d->contentFontSize;
-    int const w = qMax(2 * f, d->itemWidth - dyn - 2 * f);
+    int const w = titleWidth(d->itemWidth, dyn, d->contentFontSize);
 
     d->itemTitle = text;
     d->titleLabel->setWidth(w);
@@ -332,7 +347,7 @@ void CommonItemType::setLeftIconTitleHide(bool hide)
     } else {
         d->leftIconTitle->show();
         if (!buttonHidden) {
-            int const w = qMax(0, d->itemWidth - 16);
+            int const w = widgetWidth(qint64(d->itemWidth) - 16);
             d->leftIconArea->setFixedWidth(w);
             d->leftIconTitle->setFixedWidth(w);
             return;
@@ -419,18 +434,19 @@ int CommonItemType::getLabelRow(QLabel* label) const
     font.setPixelSize(f);
     QFontMetrics const fm(font);
 
-    int avail = 0;
+    qint64 space = 0;
     if (d->titleLabel->isHidden()) {
-        avail = d->itemWidth;
+        space = d->itemWidth;
     } else if (label == d->titleLabel) {
         int dyn = 0;
         calDynamicLayoutWidth(dyn);
-        avail = d->itemWidth - dyn - 2 * f;
+        space = qint64(d->itemWidth) - dyn - 2 * qint64(f);
     } else {
-        avail = d->itemWidth - d->titleLabel->sizeHint().width() - 2 * f;
+        space = qint64(d->itemWidth) - d->titleLabel->sizeHint().width() - 2 * qint64(f);
     }
-    if (avail < 1 || fm.height() == 0)
+    if (space < 1 || fm.height() == 0)
         return 1;
+    int const avail = widgetWidth(space);
 
     QString text = label->text();
     text.remove(QLatin1Char('\n'));

@@ -184,6 +184,9 @@ void NQSpinBox::knobStep(bool up, float level)
         next = lo;
     next -= next % s; // toward zero onto the single-step grid
     setValue(static_cast<int>(next));
+    // The committed value is what the box holds: a snap below the minimum (1..99 in
+    // steps of 2, down from 3 gives 1, snapped to 0) is clamped back by setValue, and
+    // the selection shape and the log follow the value shown, not the off-range 0.
     m_committed = value();
     if (hasFocus())
         setSelection();
@@ -316,6 +319,10 @@ double NQDoubleSpinBox::getStep(float level) const
     double step = qMax(static_cast<double>(level) * span, 1.0) * singleStep();
     if (step > maximum())
         step = maximum();
+    // The cap is the maximum itself: at a maximum of 0 or below (a -60..0 dB range)
+    // it would stall the knob or turn it backwards. One single step then.
+    if (step <= 0.0)
+        step = singleStep();
     return step;
 }
 
@@ -333,6 +340,11 @@ bool NQDoubleSpinBox::isValid(double value) const { return minimum() <= value &&
 
 void NQDoubleSpinBox::setValueByManual(double value)
 {
+    // setValue would clamp NaN to the maximum while the committed value stayed NaN.
+    if (std::isnan(value)) {
+        qWarning().noquote() << QStringLiteral("[knobspin] setValueByManual: value is not a number, ignored");
+        return;
+    }
     bool const blocked = blockSignals(true);
     m_committed = value;
     setValue(value);

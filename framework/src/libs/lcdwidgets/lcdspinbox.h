@@ -79,7 +79,8 @@ public:
     void setSelection();
     void unSelection() const;
     bool isValid(double value) const;
-    // Stores the value as committed and sets it (clamped) without emitting.
+    // Stores the value as committed and sets it (clamped) without emitting; NaN is
+    // logged and ignored.
     void setValueByManual(double value);
 
     SuffixType suffixType() const { return m_suffixType; }

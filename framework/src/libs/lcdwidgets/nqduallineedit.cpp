@@ -185,6 +185,8 @@ void NQDualLineEdit::keyPressEvent(QKeyEvent* event)
     QFrame::keyPressEvent(event);
 }
 
+void NQDualLineEdit::keyReleaseEvent(QKeyEvent* event) { event->accept(); }
+
 void NQDualLineEdit::focusInEvent(QFocusEvent* event)
 {
     QFrame::focusInEvent(event);

@@ -49,6 +49,8 @@ signals:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    // Releases of the editing keys stay in the editor: they never reach the page.
+    void keyReleaseEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
 

@@ -62,7 +62,9 @@ struct ProgressBarCtr::Impl
     void show(QColor const& c, int barValue, QString const& text, Result r)
     {
         setColour(c);
-        bar->setValue(barValue);
+        // QProgressBar ignores a value outside its range and would keep the old one:
+        // past the end the bar is full, below the start empty.
+        bar->setValue(qBound(bar->minimum(), barValue, bar->maximum()));
         valueLabel->setText(text);
         result = r;
     }

@@ -32,8 +32,9 @@ public:
     void setCount(int n);
     int count() const;
 
-    // Sets the bar to v (truncated) and shows the current task's percentage
-    // v / count; a percentage of exactly 100 finishes the display (setFinish()).
+    // Sets the bar to v (truncated, kept within the bar's range) and shows the current
+    // task's percentage v / count; a percentage of exactly 100 finishes the display
+    // (setFinish()).
     void setCurrentValue(double v);
     double currentValue() const;
 

@@ -4,6 +4,7 @@
 #include "stylehelper.h"
 #include "typeintadjust.h"
 
+#include <QDebug>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -73,6 +74,13 @@ void TypeFloatAdjust::editValue()
 
 void TypeFloatAdjust::setRange(float minimum, float maximum)
 {
+    // A NaN or infinite bound would make the value NaN or unprintable.
+    if (!std::isfinite(minimum) || !std::isfinite(maximum)) {
+        qWarning().noquote() << QStringLiteral("[TypeFloatAdjust] setRange: bounds %1, %2 are not finite, ignored")
+                                    .arg(static_cast<double>(minimum))
+                                    .arg(static_cast<double>(maximum));
+        return;
+    }
     d->spinBox->setRange(static_cast<double>(minimum), static_cast<double>(maximum));
 }
 
@@ -102,7 +110,7 @@ void TypeFloatAdjust::setContentFontSize(int size)
     CommonItemType::setContentFontSize(size);
     d->spinBox->setStyleSheet(
         QStringLiteral("QAbstractSpinBox{font-size:%1px; border-radius:%2px; }").arg(size).arg(itemHeight() / 9));
-    d->spinBox->setFixedWidth(3 * size);
+    d->spinBox->setFixedWidth(int(qBound<qint64>(0, qint64(size) * 3, QWIDGETSIZE_MAX)));
 }
 
 void TypeFloatAdjust::setDecimals(int decimals) { d->spinBox->setDecimals(decimals); }

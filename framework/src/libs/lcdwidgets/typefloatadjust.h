@@ -25,7 +25,10 @@ public:
     void setLabelValue(QVariant value, int mode = 0) override;
     QVariant getLabelValue() override;
     void editValue() override;
+    // Reports the value when the new range clamps it; NaN or infinite bounds are
+    // logged and ignored.
     void setRange(float minimum, float maximum) override;
+    // Silent.
     void setRange(int minimum, int maximum) override;
     // Ignored when below 1e-6 or wider than the range; otherwise taken as it is.
     void setSingleStep(float step) override;

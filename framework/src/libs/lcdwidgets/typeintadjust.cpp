@@ -73,7 +73,9 @@ int decimalLength(int v)
 int intSpinBoxWidth(int minimum, int maximum, int fontSize)
 {
     int const d = qMax(decimalLength(minimum), decimalLength(maximum)) + 1;
-    return fontSize + (d / 2) * fontSize;
+    // In 64 bits and bounded to what a widget accepts: the font size is the host's.
+    qint64 const width = qint64(fontSize) + qint64(d / 2) * fontSize;
+    return int(qBound<qint64>(0, width, QWIDGETSIZE_MAX));
 }
 
 struct TypeIntAdjust::Impl

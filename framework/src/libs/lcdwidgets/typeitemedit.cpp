@@ -70,6 +70,7 @@ void TypeItemEdit::finishEdit()
     d->edit->setFocusPolicy(Qt::ClickFocus);
     if (d->edit->hasFocus() && parentWidget())
         parentWidget()->setFocus(Qt::OtherFocusReason);
+    emit signalCloseEditStatus();
     emit signalEditFinished();
 }
 

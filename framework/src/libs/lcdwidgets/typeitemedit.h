@@ -2,10 +2,11 @@
 //
 // The knob's press on the row (editValue()) puts the field into editing: it takes the
 // keys, typed text is reported live through signalValueChanged(QString), knob turns move
-// the text cursor (Up forwards, Down backwards) and Enter, Return or Escape end the edit
-// (the focus goes back to the page and signalEditFinished() follows). The edit button,
-// or the row's setEditButtonClicked(), emits signalEditBtnClicked() so that the host can
-// open its own keyboard. In password mode the text is masked.
+// the text cursor (Up forwards, Down backwards) and Enter, Return or Escape end the edit:
+// the focus goes back to the page, then signalCloseEditStatus() and signalEditFinished()
+// follow (as when the page closes the edit or the field loses the focus). The edit
+// button emits signalEditBtnClicked() so that the host can open its own keyboard. In
+// password mode the text is masked.
 #pragma once
 
 #include "commonitemtype.h"

@@ -6,6 +6,19 @@
 namespace LCD {
 namespace Widget {
 
+namespace {
+
+// The width an icon button takes in the row: its fixed width once the page sized it,
+// otherwise what the theme gives it.
+int slotWidth(QPushButton* button)
+{
+    if (button->minimumWidth() == button->maximumWidth())
+        return button->minimumWidth();
+    return qBound(button->minimumWidth(), button->sizeHint().width(), button->maximumWidth());
+}
+
+} // namespace
+
 struct TypeMainButton::Impl
 {
     int pageWidth = -1; // the width the page gives, before the icons are taken off
@@ -25,9 +38,9 @@ void TypeMainButton::fitTitle()
     int const gap = rowLayout()->spacing();
     int icons = 0;
     if (!leftIconButton()->isHidden())
-        icons += leftIconButton()->minimumWidth() + gap;
+        icons += slotWidth(leftIconButton()) + gap;
     if (!rightIconButton()->isHidden())
-        icons += rightIconButton()->minimumWidth() + gap;
+        icons += slotWidth(rightIconButton()) + gap;
     CommonItemType::setItemTitleWidth(qMax(0, d->pageWidth - icons));
     if (!itemTitle().isEmpty())
         setItemTitleRoll(itemTitle(), getLabelRoll());
@@ -36,6 +49,11 @@ void TypeMainButton::fitTitle()
 void TypeMainButton::setItemTitleWidth(int width)
 {
     d->pageWidth = width;
+    if (width < 0) {
+        // No width to take the icons off: stored and reported as given.
+        CommonItemType::setItemTitleWidth(width);
+        return;
+    }
     fitTitle();
 }
 
@@ -53,10 +71,9 @@ void TypeMainButton::setRightIconSize(QSize size)
 
 void TypeMainButton::createWidget()
 {
-    // The row's own title and icon buttons are the whole entry; the right icon shows
-    // once the page gives it a size and a look.
+    // The row's own title and icon buttons are the whole entry: the left icon is
+    // hidden and the right one shown, as in every row, until the page says otherwise.
     setRollLabelStretchMax();
-    setRightIconButtonHide(true);
 }
 
 void TypeMainButton::setContentDisabled(bool) const {}

@@ -2,7 +2,8 @@
 //
 // TypeMainButton: an entry of a main menu: the title and the row's own left and right
 // icons (for instance a large icon and an arrow); nothing is greyed. The icons' widths
-// are taken off the width the page gives, so that the title leaves room for them.
+// are taken off the width the page gives, so that the title leaves room for them
+// (getItemWidth() and signalItemWidthChanged() report the width left for the title).
 //
 // TypeItemNull: a heading or plain text line in the "about" style, carrying user data
 // for the page; nothing to edit and nothing to grey.

@@ -63,7 +63,9 @@ void TypeMultItemText::showLabel(int index)
     RollLabel* label = d->labels.at(index);
     QString const& text = d->texts[index];
     label->setItemName(text);
-    bool const roll = label->getLabelRoll();
+    // The row keeps the roll setting: a label without a width yet does not record it,
+    // so a roll asked for before setLabelWidth() must survive until the width comes.
+    bool const roll = d->roll;
     label->setTextLabel(roll ? text : calTextSize(text, label->storedWidth()), roll);
 }
 
@@ -131,11 +133,8 @@ QString TypeMultItemText::calTextSize(QString text, int width) const
 void TypeMultItemText::setRollLabel(bool roll)
 {
     d->roll = roll;
-    for (int i = 0; i < kLabelCount; ++i) {
-        RollLabel* label = d->labels.at(i);
-        label->setItemName(d->texts[i]);
-        label->setTextLabel(roll ? d->texts[i] : calTextSize(d->texts[i], label->storedWidth()), roll);
-    }
+    for (int i = 0; i < kLabelCount; ++i)
+        showLabel(i);
 }
 
 void TypeMultItemText::setContentDisabled(bool disabled) const
@@ -231,7 +230,7 @@ void TypeKeyCheck::setContentFontSize(int size)
     for (QLabel* label : d->labels)
         label->setStyleSheet(sheet);
     // The result column lines up from row to row.
-    d->labels[1]->setMinimumWidth(qMax(0, 4 * size));
+    d->labels[1]->setMinimumWidth(int(qBound<qint64>(0, 4 * qint64(size), QWIDGETSIZE_MAX)));
 }
 
 QLabel* TypeKeyCheck::label(int index) const
