@@ -22,7 +22,8 @@ run(${CMAKE_COMMAND} -S ${SOURCE_DIR}/examples/host -B ${WORK}/host -DCMAKE_PREF
     -DCMAKE_BUILD_TYPE=Release)
 run(${CMAKE_COMMAND} --build ${WORK}/host)
 run(${WORK}/host/lcdhost ${WORK}/row.png)
-if(NOT LAST_OUTPUT MATCHES "lcdwidgets 0.1.0" OR NOT LAST_OUTPUT MATCHES "row rendered")
+if(NOT LAST_OUTPUT MATCHES "lcdwidgets 0.1.0" OR NOT LAST_OUTPUT MATCHES "row rendered"
+   OR NOT LAST_OUTPUT MATCHES "brightness 76" OR NOT LAST_OUTPUT MATCHES "created 33 widget classes")
     message(FATAL_ERROR "unexpected host output: ${LAST_OUTPUT}")
 endif()
 
@@ -34,7 +35,7 @@ set(ENV{PKG_CONFIG_PATH} ${pcdir})
 run(pkg-config --cflags --libs lcdwidgets)
 string(STRIP "${LAST_OUTPUT}" flags)
 separate_arguments(flags UNIX_COMMAND "${flags}")
-run(c++ -std=c++17 ${SOURCE_DIR}/examples/host/main.cpp -o ${WORK}/lcdhost-pc ${flags} -Wl,-rpath,${prefix}/lib)
+run(c++ -std=c++17 ${SOURCE_DIR}/examples/host/main.cpp ${SOURCE_DIR}/examples/host/everyclass.cpp -o ${WORK}/lcdhost-pc ${flags} -Wl,-rpath,${prefix}/lib)
 run(${WORK}/lcdhost-pc ${WORK}/row-pc.png)
 if(NOT LAST_OUTPUT MATCHES "row rendered")
     message(FATAL_ERROR "pkg-config host failed: ${LAST_OUTPUT}")
