@@ -4,6 +4,7 @@
 #include "knob.h"
 
 #include <lcdwidgets.h>
+#include <displaytext_p.h> // internal helpers, compiled into this test
 
 #include <QLineEdit>
 #include <QMovie>

@@ -3,6 +3,7 @@
 // and the float, slider, dual-value and spin-adjust rows.
 #include <knob.h>
 #include <lcdwidgets.h>
+#include <spinrow_p.h> // internal helpers, compiled into this test
 
 #include <QLabel>
 #include <QLoggingCategory>

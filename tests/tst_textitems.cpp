@@ -2,6 +2,7 @@
 // the item height, the font-size rules and refusals, the one-off right spacer, the
 // three-value row, and the "..." cut shared by the value rows.
 #include <lcdwidgets.h>
+#include <displaytext_p.h> // internal helpers, compiled into this test
 
 #include <QFrame>
 #include <QHBoxLayout>

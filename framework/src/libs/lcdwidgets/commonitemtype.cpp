@@ -1,6 +1,6 @@
 #include "commonitemtype.h"
 
-#include "displaytext.h"
+#include "displaytext_p.h"
 
 #include <QDebug>
 #include <QEvent>

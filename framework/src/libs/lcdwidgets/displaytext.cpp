@@ -1,4 +1,4 @@
-#include "displaytext.h"
+#include "displaytext_p.h"
 
 #include "rolllabel.h"
 

@@ -21,7 +21,6 @@
 
 // Display items and bars
 // (one line per header, kept in the order the classes build on each other)
-#include "displaytext.h"
 #include "typeitemtext.h"
 #include "typeitemvalue.h"
 #include "typekeyvaluetext.h"

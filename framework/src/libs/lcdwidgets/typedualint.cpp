@@ -1,4 +1,5 @@
 #include "typedualint.h"
+#include "spinrow_p.h"
 
 #include "nqduallineedit.h"
 #include "stylehelper.h"

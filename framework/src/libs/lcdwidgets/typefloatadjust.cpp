@@ -1,4 +1,5 @@
 #include "typefloatadjust.h"
+#include "spinrow_p.h"
 
 #include "lcdspinbox.h"
 #include "stylehelper.h"

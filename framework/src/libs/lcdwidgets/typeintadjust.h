@@ -60,23 +60,6 @@ private:
     std::unique_ptr<Impl> d;
 };
 
-// Width rule shared by the integer rows: the characters of the longer bound's
-// decimal text (minus sign included) plus one, then font + (chars / 2) * font.
-LCDWIDGETS_EXPORT int intSpinBoxWidth(int minimum, int maximum, int fontSize);
-
-// End of an edit inside `row`: the row's parent widget takes the focus back, unless
-// the focus has already gone to a widget outside the row (then it stays there).
-LCDWIDGETS_EXPORT void returnFocusToParent(QWidget* row);
-
-// The keys of an edit in a spin-box row, for the row's event filter: Escape leaves
-// the edit keeping the value reached (the row's parent takes the focus back, or the
-// editor drops it when there is no parent) and emits signalCloseEditStatus();
-// key releases are swallowed. Returns true when the event was consumed.
-LCDWIDGETS_EXPORT bool filterSpinRowKeys(CommonItemType* row, QWidget* editor, QEvent* event);
-
-// A float bound or step truncated toward zero; NaN gives 0, values beyond the int
-// range give its limits.
-LCDWIDGETS_EXPORT int truncateToInt(float value);
 
 } // namespace Widget
 } // namespace LCD

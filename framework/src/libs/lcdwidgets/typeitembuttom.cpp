@@ -1,6 +1,6 @@
 #include "typeitembuttom.h"
 
-#include "displaytext.h"
+#include "displaytext_p.h"
 
 #include <QDebug>
 #include <QHBoxLayout>

@@ -1,6 +1,6 @@
 #include "typeitemtext.h"
 
-#include "displaytext.h"
+#include "displaytext_p.h"
 
 #include <QHBoxLayout>
 #include <QPushButton>

@@ -1,6 +1,6 @@
 #include "typekeyvaluetext.h"
 
-#include "displaytext.h"
+#include "displaytext_p.h"
 
 #include <QFontMetrics>
 #include <QHBoxLayout>
