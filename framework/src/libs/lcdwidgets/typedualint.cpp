@@ -1,7 +1,7 @@
 #include "typedualint.h"
-#include "spinrow_p.h"
 
 #include "nqduallineedit.h"
+#include "spinrow_p.h"
 #include "stylehelper.h"
 #include "typeintadjust.h"
 

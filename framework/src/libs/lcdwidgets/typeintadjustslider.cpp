@@ -1,7 +1,7 @@
 #include "typeintadjustslider.h"
-#include "spinrow_p.h"
 
 #include "lcdspinbox.h"
+#include "spinrow_p.h"
 #include "stylehelper.h"
 #include "typeintadjust.h"
 
