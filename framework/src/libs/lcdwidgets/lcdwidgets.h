@@ -37,6 +37,10 @@
 #include "resetapplywidget.h"
 #include "progressbarctr.h"
 
+// Lists, drop-downs and menus
+#include "stringcomboxbasetype.h"
+#include "focuscombobox.h"
+
 // Value editors
 #include "lcdspinbox.h"
 #include "typeintadjust.h"
