@@ -40,6 +40,10 @@
 // Lists, drop-downs and menus
 #include "stringcomboxbasetype.h"
 #include "focuscombobox.h"
+#include "dropcombobox.h"
+#include "typestringcombox.h"
+#include "dialogmenuwidget.h"
+#include "typedialogmenu.h"
 
 // Value editors
 #include "lcdspinbox.h"
