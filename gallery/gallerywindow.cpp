@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QPainter>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
@@ -90,23 +91,60 @@ void GalleryWindow::updateHeader()
 
 void GalleryWindow::setStatus(QString const& text) { m_status->setText(text); }
 
+QPixmap GalleryWindow::grabScreen()
+{
+    QPixmap shot = grab();
+    // Menus and pop-ups are windows of their own: paint them where they stand.
+    QPainter painter(&shot);
+    QPoint const origin = mapToGlobal(QPoint(0, 0));
+    for (QWidget* top : QApplication::topLevelWidgets()) {
+        if (top == this || !top->isVisible() || top->windowType() == Qt::Desktop)
+            continue;
+        painter.setOpacity(top->windowOpacity());
+        painter.drawPixmap(top->mapToGlobal(QPoint(0, 0)) - origin, top->grab());
+    }
+    return shot;
+}
+
+void GalleryWindow::closeOtherWindows()
+{
+    for (QWidget* top : QApplication::topLevelWidgets()) {
+        if (top != this && top->isVisible() && top->windowType() != Qt::Desktop) {
+            // A menu or pop-up ends its edit the way the user would.
+            QWidget* focus = top->focusWidget();
+            QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+            QApplication::sendEvent(focus ? focus : top, &escape);
+            top->hide();
+        }
+    }
+    QApplication::processEvents();
+}
+
 int GalleryWindow::renderScreenshots(QString const& dir)
 {
     QDir().mkpath(dir);
     int written = 0;
-    for (int i = 0; i < pageCount(); ++i) {
+    auto render = [&](int i, QString const& suffix, std::function<void()> const& setup) {
         showPage(i);
         ItemPage* p = page(i);
-        if (p->screenshotSetup)
-            p->screenshotSetup();
+        if (setup)
+            setup();
         // Tall pages are rendered whole.
         int const needed = 44 + 30 + p->contentHeight();
         setFixedSize(kWidth, qMax(kHeight, needed));
         QApplication::processEvents();
-        QString const file = QDir(dir).filePath(QStringLiteral("%1-%2.png").arg(i + 1, 2, 10, QLatin1Char('0')).arg(pageId(i)));
-        if (grab().save(file))
-            ++written;
+        QString const name = QStringLiteral("%1-%2%3.png").arg(i + 1, 2, 10, QLatin1Char('0')).arg(pageId(i), suffix);
+        bool const saved = grabScreen().save(QDir(dir).filePath(name));
+        closeOtherWindows();
         setFixedSize(kWidth, kHeight);
+        return saved;
+    };
+    for (int i = 0; i < pageCount(); ++i) {
+        ItemPage* p = page(i);
+        if (render(i, QString(), p->screenshotSetup))
+            ++written;
+        for (auto const& variant : qAsConst(p->screenshotVariants))
+            render(i, QStringLiteral("-") + variant.first, variant.second);
     }
     return written;
 }

@@ -4,6 +4,7 @@
 
 #include "gallerycontext.h"
 
+#include <QPixmap>
 #include <QWidget>
 
 class ItemPage;
@@ -29,8 +30,13 @@ public:
     // Refreshes the header's T-bar reading.
     void updateHeader();
 
-    // Renders every page, each at the height it needs, to DIR/NN-id.png.
+    // Renders every page, each at the height it needs, to DIR/NN-id.png (and its
+    // variants to DIR/NN-id-variant.png); returns the number of pages written.
     int renderScreenshots(QString const& dir);
+    // The window with the menus and pop-ups open over it.
+    QPixmap grabScreen();
+    // Closes menus and pop-ups left open (with Escape, as the user would).
+    void closeOtherWindows();
 
 private:
     GalleryContext& m_context;

@@ -1,6 +1,7 @@
 #include "itempage.h"
 
 #include <commonitemtype.h>
+#include <stringcomboxbasetype.h>
 #include <stylehelper.h>
 
 #include <QKeyEvent>
@@ -151,6 +152,10 @@ void ItemPage::press()
         emit statusMessage(tr("\"%1\" is disabled").arg(item->itemTitle()));
         return;
     }
+    // Pop-ups and menus place themselves over the screen: tell the row where the
+    // window is now.
+    if (auto* choice = qobject_cast<LCD::Widget::StringComboxBaseType*>(item))
+        choice->setHomeFramePoint(window()->mapToGlobal(QPoint(0, 0)));
     item->editValue();
 }
 

@@ -53,6 +53,8 @@ public:
 
     // Called before the page's screenshot; puts it into a telling state.
     std::function<void()> screenshotSetup;
+    // More pictures of the page, each after its own setup (file-name suffix, setup).
+    QList<QPair<QString, std::function<void()>>> screenshotVariants;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 

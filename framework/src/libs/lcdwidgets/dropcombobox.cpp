@@ -335,8 +335,10 @@ void DropCombobox::widenFor(int first, int last)
     if (d->widthLimit > 0)
         w = qMin<qint64>(w, d->widthLimit);
     int const width = static_cast<int>(qMin<qint64>(w, QWIDGETSIZE_MAX));
-    if (minimumWidth() != width || maximumWidth() != width)
+    if (minimumWidth() != width || maximumWidth() != width) {
         setFixedWidth(width);
+        emit signalWidthChanged(width);
+    }
 }
 
 void DropCombobox::setComboBoxMaxWidth()
@@ -547,6 +549,8 @@ void DropCombobox::slotCloseEdit()
 
 void DropCombobox::slotIndexChanged(int index)
 {
+    // A text wider than the combo shows its beginning.
+    lineEdit()->setCursorPosition(0);
     emit signalIndexChanged(index);
     emit signalValueChanged(itemData(index, Qt::UserRole));
 }

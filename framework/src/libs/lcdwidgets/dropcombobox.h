@@ -168,6 +168,8 @@ signals:
     // An entry was chosen in a list; the edit is over.
     void eidtFinished(int index);
     void signalIndexChanged(int index);
+    // The width that follows the entries changed (the row lays its title out anew).
+    void signalWidthChanged(int width);
 
 protected:
     // Places the standard popup inside the home rectangle (width: the widest the

@@ -77,3 +77,27 @@ int intSpinBoxWidth(int minimum, int maximum, int fontSize)
 
 } // namespace Widget
 } // namespace LCD
+
+namespace LCD {
+namespace Widget {
+
+void returnFocusFromWindow(QWidget* row, QWidget* window)
+{
+    if (!row || !row->parentWidget())
+        return;
+    QWidget* focus = QApplication::focusWidget();
+    bool const ours = !focus || focus == row || row->isAncestorOf(focus) || (window && window->isAncestorOf(focus))
+        || focus == window;
+    if (!ours)
+        return;
+    QWidget* top = row->window();
+    // Without a window manager nobody else gives the page's window the keyboard back.
+    if (top->isVisible() && QApplication::activeWindow() != top) {
+        top->activateWindow();
+        QApplication::setActiveWindow(top);
+    }
+    row->parentWidget()->setFocus(Qt::OtherFocusReason);
+}
+
+} // namespace Widget
+} // namespace LCD

@@ -29,3 +29,14 @@ int truncateToInt(float value);
 
 } // namespace Widget
 } // namespace LCD
+
+namespace LCD {
+namespace Widget {
+
+// End of an edit that ran in a window of its own (a menu dialog): the row's window
+// becomes the active one again and the row's parent takes the focus back, unless the
+// focus has gone to a widget outside both the row and that window.
+void returnFocusFromWindow(QWidget* row, QWidget* window);
+
+} // namespace Widget
+} // namespace LCD

@@ -5,6 +5,7 @@
 #include "spinrow_p.h"
 #include "stylehelper.h"
 
+#include <QApplication>
 #include <QDebug>
 #include <QHBoxLayout>
 #include <QListWidget>
@@ -74,7 +75,7 @@ void TypeDialogMenu::Impl::createWidgets()
         if (dialog->isVisible())
             dialog->hide();
         q->setEdit(false);
-        returnFocusToParent(q);
+        returnFocusFromWindow(q, dialog);
         emit q->signalEditFinished();
     });
 }
@@ -332,8 +333,12 @@ void TypeDialogMenu::editValue()
     }
     d->resizeMenuDialogPos();
     d->dialog->setFocus(Qt::OtherFocusReason);
-    d->dialog->activateWindow();
     d->dialog->show();
+    d->dialog->activateWindow();
+    // Without a window manager a new window is not activated for us: the knob must
+    // reach the menu at once.
+    if (QApplication::activeWindow() != d->dialog)
+        QApplication::setActiveWindow(d->dialog);
     d->dialog->listWidget()->setFocus(Qt::OtherFocusReason);
     setEdit(true);
     emit signalEditStarted();
@@ -341,8 +346,10 @@ void TypeDialogMenu::editValue()
 
 void TypeDialogMenu::closeEditValue()
 {
-    if (d->dialog->isVisible())
+    if (d->dialog->isVisible()) {
         d->dialog->hide();
+        returnFocusFromWindow(this, d->dialog);
+    }
     setEdit(false);
     CommonItemType::closeEditValue();
 }

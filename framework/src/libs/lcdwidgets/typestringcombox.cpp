@@ -67,6 +67,17 @@ struct TypeStringCombox::Impl
             label->setStyleSheet(sheet);
     }
     void endEdit(bool back);
+    // The title gets the room the value widgets leave.
+    void relayoutTitle()
+    {
+        // Measured as the theme draws them (paddings, font sizes).
+        for (QLabel* label : {preLabel, lastLabel}) {
+            if (!label->isHidden())
+                label->ensurePolished();
+        }
+        if (!q->itemTitle().isEmpty())
+            q->setItemTitleText(q->itemTitle());
+    }
     void watchCursor(QAbstractItemView* view);
     void applyHomeRect()
     {
@@ -93,7 +104,12 @@ void TypeStringCombox::Impl::createWidget(bool haveArrow)
     lastLabel->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     lastLabel->hide();
 
+    // No spacing: the row's title takes exactly the room the widgets' own widths
+    // leave; the labels carry their gaps as margins.
+    preLabel->setContentsMargins(0, 0, 6, 0);
+    lastLabel->setContentsMargins(6, 0, 0, 0);
     QHBoxLayout* layout = q->dynamicLayout();
+    layout->setSpacing(0);
     layout->addStretch();
     layout->addWidget(preLabel);
     layout->addWidget(combo);
@@ -107,6 +123,7 @@ void TypeStringCombox::Impl::createWidget(bool haveArrow)
     QObject::connect(combo, &DropCombobox::eidtFinished, q, &TypeStringCombox::slotComBoxActivated);
     QObject::connect(combo, QOverload<int>::of(&QComboBox::currentIndexChanged), q,
                      &TypeStringCombox::slotComBoxIndexChanged);
+    QObject::connect(combo, &DropCombobox::signalWidthChanged, q, [this] { relayoutTitle(); });
     QObject::connect(combo, &DropCombobox::sigCloseEdit, q, [this] {
         if (editing)
             endEdit(true);
@@ -414,7 +431,11 @@ void TypeStringCombox::setCurrentItem(bool current)
     d->combo->setCurrentItem(current);
 }
 
-void TypeStringCombox::setComboBoxVisible(bool visible) { d->combo->setVisible(visible); }
+void TypeStringCombox::setComboBoxVisible(bool visible)
+{
+    d->combo->setVisible(visible);
+    d->relayoutTitle();
+}
 
 void TypeStringCombox::setIconSize(QSize size)
 {
@@ -444,8 +465,12 @@ void TypeStringCombox::updateComboboxEditable()
 
 void TypeStringCombox::initComboBoxWidth()
 {
-    int const limit = getDynamicMaxWidth();
-    d->combo->setComboBoxWidthLimit(limit > 0 ? limit : 0);
+    // The value may take half the row, the title keeps the rest.
+    int limit = getItemWidth() / 2;
+    int const dynamicMax = getDynamicMaxWidth();
+    if (dynamicMax > 0 && (limit <= 0 || dynamicMax < limit))
+        limit = dynamicMax;
+    d->combo->setComboBoxWidthLimit(qMax(0, limit));
 }
 
 void TypeStringCombox::setIsNeedShowCombox(bool show) { d->combo->setIsNeedShowCombox(show); }
@@ -459,9 +484,15 @@ void TypeStringCombox::setPreValueLabelHidden(bool hidden)
 {
     d->preLabel->setHidden(hidden);
     d->applyLabelFont(d->preLabel);
+    d->relayoutTitle();
 }
 
-void TypeStringCombox::setPreValueLabelText(QString text) { d->preLabel->setText(text); }
+void TypeStringCombox::setPreValueLabelText(QString text)
+{
+    d->preLabel->setText(text);
+    if (!d->preLabel->isHidden())
+        d->relayoutTitle();
+}
 
 void TypeStringCombox::setPreValueLabelProperty(char const* name, QVariant const& value)
 {
@@ -486,6 +517,7 @@ void TypeStringCombox::setLastValueLabelHidden(bool hidden)
 {
     d->lastLabel->setHidden(hidden);
     d->applyLabelFont(d->lastLabel);
+    d->relayoutTitle();
 }
 
 void TypeStringCombox::setLastValueLabelProperty(char const* name, QVariant const& value)
