@@ -71,9 +71,9 @@ void ScrollingTextDelegate::paint(QPainter* painter, QStyleOptionViewItem const&
     QWidget const* widget = opt.widget;
     QStyle const* style = widget ? widget->style() : QApplication::style();
 
+    QRect const textRect = style->subElementRect(QStyle::SE_ItemViewItemText, &opt, widget);
     QString const text = opt.text;
     opt.text.clear();
-    QRect const textRect = style->subElementRect(QStyle::SE_ItemViewItemText, &opt, widget);
     m_textWidth = opt.fontMetrics.horizontalAdvance(text);
     m_room = textRect.width();
     if (m_textWidth <= m_room) {
@@ -142,6 +142,16 @@ void CustomListView::keyPressEvent(QKeyEvent* event)
 void CustomListView::hideEvent(QHideEvent* event)
 {
     QListView::hideEvent(event);
+    // The list was the active window: without a window manager nobody gives the
+    // page's window the keyboard back.
+    if (QWidget* owner = parentWidget()) {
+        QWidget* top = owner->window();
+        QWidget* active = QApplication::activeWindow();
+        if (top->isVisible() && (!active || active == this)) {
+            top->activateWindow();
+            QApplication::setActiveWindow(top);
+        }
+    }
     // A popup also closes when the user clicks elsewhere: that ends the edit too.
     if (!m_quietHide)
         emit sigCloseEdit();
@@ -432,6 +442,15 @@ void DropCombobox::showPopup()
     QComboBox::showPopup();
     v->window()->activateWindow();
     moveListView(v->width());
+    settleActivation();
+}
+
+void DropCombobox::settleActivation()
+{
+    // The window system reports the popup's activation later; taken while the popup
+    // is open it is ignored, taken after it has closed it would leave a hidden window
+    // active and the page without the knob.
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
 void DropCombobox::moveListView(int width)
@@ -476,6 +495,11 @@ void DropCombobox::showCustomPopupView()
 
     QWidget* window = QApplication::activeWindow();
     if (!window || window == list) {
+        // A window system without a window manager may leave no window active after
+        // a popup closed: the combo's own shown window is the one the user works in.
+        window = this->window()->isVisible() && this->window() != this ? this->window() : nullptr;
+    }
+    if (!window) {
         qWarning("-------activeWindow is null-----");
         return;
     }
@@ -517,6 +541,7 @@ void DropCombobox::showCustomPopupView()
     if (index.isValid())
         list->scrollTo(index, QAbstractItemView::PositionAtCenter);
     d->scrollTimer->start();
+    settleActivation();
 }
 
 void DropCombobox::hidePopup()

@@ -181,6 +181,7 @@ private:
     void createWidget();
     void createView();
     void finishEdit();
+    void settleActivation();
     void applyHiddenRows(QListView* view) const;
     void applySheet();
     int rowHeight() const;

@@ -287,7 +287,7 @@ QVariant TypeDialogMenu::itemData(int index, int role) const
 void TypeDialogMenu::setItemData(int index, QVariant value, int role)
 {
     if (index < 0 || index >= d->itemNameVec.size()) {
-        qDebug() << "setItemData" << ": index is bigger than vec size!";
+        qDebug().nospace() << "setItemData" << ": index is bigger than vec size!";
         return;
     }
     d->itemData[d->itemNameVec.at(index)].insert(role, value);
@@ -340,6 +340,9 @@ void TypeDialogMenu::editValue()
     if (QApplication::activeWindow() != d->dialog)
         QApplication::setActiveWindow(d->dialog);
     d->dialog->listWidget()->setFocus(Qt::OtherFocusReason);
+    // Take the window system's late report of the activation now, while the menu is
+    // shown: taken after it has closed it would make a hidden window the active one.
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     setEdit(true);
     emit signalEditStarted();
 }

@@ -11,6 +11,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScopedValueRollback>
 
 namespace LCD {
 namespace Widget {
@@ -34,6 +35,7 @@ struct TypeStringCombox::Impl
     bool editable = true;     // setEditable: may the knob open the list
     bool lineEditable = false; // setComboboxEditable: may the text be typed
     bool editing = false;     // a list opened by editValue() is open
+    bool placingCursor = false; // the row itself puts the list's cursor: no live report
     QPoint homeFramePoint;
     bool hasHomeFramePoint = false;
     QRect homeRect;
@@ -136,7 +138,7 @@ void TypeStringCombox::Impl::watchCursor(QAbstractItemView* view)
         return;
     QObject::connect(view->selectionModel(), &QItemSelectionModel::currentChanged, q,
                      [this](QModelIndex const& current) {
-                         if (!current.isValid())
+                         if (!current.isValid() || placingCursor)
                              return;
                          emit q->signalSelectedIndexChanged(current.row());
                          emit q->signalSelectedChanged(current.data(Qt::DisplayRole).toString());
@@ -341,12 +343,14 @@ void TypeStringCombox::showPopup(bool quiet)
         qWarning("listView_ is nullptr");
         return;
     }
+    d->placingCursor = true;
     d->combo->showPopup();
 
     int const current = d->combo->currentIndex() < 0 ? 0 : d->combo->currentIndex();
     QModelIndex const index = d->combo->model()->index(current, d->combo->modelColumn(), d->combo->rootModelIndex());
     if (index.isValid() && list->selectionModel())
         list->selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
+    d->placingCursor = false;
     if (!quiet) {
         emit signalValueChanged(currentData(Qt::UserRole));
         emit signalShowPop();
@@ -354,6 +358,8 @@ void TypeStringCombox::showPopup(bool quiet)
 }
 
 void TypeStringCombox::hidePopup() { d->combo->hidePopup(); }
+
+int TypeStringCombox::visableCount() const { return d->combo->visibleCount(); }
 
 int TypeStringCombox::curSelectedRow() const
 {
@@ -368,6 +374,7 @@ void TypeStringCombox::setRowSelected(int row)
         return;
     }
     QModelIndex const index = d->combo->model()->index(row, d->combo->modelColumn(), d->combo->rootModelIndex());
+    QScopedValueRollback<bool> quiet(d->placingCursor, true);
     for (QAbstractItemView* list : {static_cast<QAbstractItemView*>(d->combo->getCustomListView()), d->combo->view()}) {
         if (list && list->selectionModel())
             list->selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
