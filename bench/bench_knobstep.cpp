@@ -10,6 +10,8 @@
 // on and a message handler throws it away.
 #include <lcdwidgets.h>
 
+#include "benchratio.h"
+
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
@@ -144,23 +146,6 @@ void registerBenchmarks()
             ->MinTime(0.5);
 }
 
-// Console output plus the per-benchmark CPU time per iteration, for the ratio.
-class RatioReporter : public benchmark::ConsoleReporter
-{
-public:
-    RatioReporter() : ConsoleReporter(isatty(STDOUT_FILENO) ? OO_Defaults : OO_Tabular) {}
-    std::map<std::string, double> cpuNs;
-    void ReportRuns(std::vector<Run> const& runs) override
-    {
-        ConsoleReporter::ReportRuns(runs);
-        for (Run const& run : runs) {
-            if (run.error_occurred || run.iterations == 0)
-                continue;
-            cpuNs[run.run_name.function_name] = run.GetAdjustedCPUTime(); // ns per iteration
-        }
-    }
-};
-
 } // namespace
 
 int main(int argc, char** argv)
@@ -176,17 +161,9 @@ int main(int argc, char** argv)
     RatioReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
 
-    auto best = [&](std::string const& prefix) {
-        double v = 0.0;
-        for (auto const& [name, ns] : reporter.cpuNs)
-            if (name.compare(0, prefix.size(), prefix) == 0 && name.find('/', prefix.size()) == prefix.size() &&
-                (v == 0.0 || ns < v))
-                v = ns;
-        return v;
-    };
-    double const bare = best("BM_QSpinBox");
-    double const row = best("BM_TypeIntAdjust");
-    double const logged = best("BM_TypeIntAdjustLogged");
+    double const bare = reporter.best("BM_QSpinBox");
+    double const row = reporter.best("BM_TypeIntAdjust");
+    double const logged = reporter.best("BM_TypeIntAdjustLogged");
     if (bare > 0.0 && row > 0.0) {
         std::printf("\nknob step, CPU time per detent (best of %d rounds):\n", kRounds);
         std::printf("  QSpinBox       %8.0f ns\n  TypeIntAdjust  %8.0f ns\n", bare, row);
