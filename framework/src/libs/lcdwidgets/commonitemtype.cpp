@@ -66,6 +66,15 @@ struct CommonItemType::Impl
     QHBoxLayout* dynamicLayout = nullptr;
     QPushButton* rightIconButton = nullptr;
     QLabel* underLine = nullptr;
+    QVBoxLayout* titleColumn = nullptr;
+    QSpacerItem* leftIconSlot = nullptr; // holds position 0 until the icon area exists
+
+    // The left icon area (button and caption) and the second title are built on
+    // first use: most rows never show them. What was set before lives here.
+    QString caption;          // the caption's text
+    int captionWidth = -1;    // its width, as the title's
+    bool fontSizeSet = false; // setContentFontSize() was called: small labels get a sheet
+    bool iconsEnabled = true;
 
     bool editing = false;
     QString itemTitle;
@@ -96,47 +105,19 @@ void CommonItemType::createWidgets()
     d->rowLayout->setSpacing(4);
     d->rowLayout->setContentsMargins(8, 0, 8, 0);
 
-    // Position 0: left icon with its caption underneath.
-    d->leftIconArea = new QWidget(this);
-    auto* iconColumn = new QVBoxLayout(d->leftIconArea);
-    iconColumn->setContentsMargins(0, 0, 0, 0);
-    iconColumn->setSpacing(0);
-    d->leftIconButton = new QPushButton(d->leftIconArea);
-    d->leftIconButton->setObjectName(QStringLiteral("itemLeftIconButton"));
-    d->leftIconButton->setFocusPolicy(Qt::NoFocus);
-    d->leftIconButton->hide();
-    d->leftIconTitle = new RollLabel(d->leftIconArea);
-    d->leftIconTitle->setProperty(kTitleProperty, true);
-    d->leftIconTitle->setAlignment(Qt::AlignCenter);
-    d->leftIconTitle->hide();
-    auto* buttonRow = new QHBoxLayout;
-    buttonRow->setContentsMargins(0, 0, 0, 0);
-    buttonRow->setAlignment(Qt::AlignHCenter);
-    buttonRow->addWidget(d->leftIconButton);
-    auto* captionRow = new QHBoxLayout;
-    captionRow->setContentsMargins(0, 0, 0, 0);
-    captionRow->setAlignment(Qt::AlignHCenter);
-    captionRow->addWidget(d->leftIconTitle);
-    iconColumn->addStretch();
-    iconColumn->addLayout(buttonRow);
-    iconColumn->addStretch();
-    iconColumn->addLayout(captionRow);
-    iconColumn->addStretch();
-    d->rowLayout->addWidget(d->leftIconArea);
-    d->leftIconArea->hide(); // shown together with its button
+    // Position 0: left icon with its caption underneath, built on first use; until
+    // then an empty slot keeps the positions of the other parts.
+    d->leftIconSlot = new QSpacerItem(0, 0, QSizePolicy::Fixed, QSizePolicy::Fixed);
+    d->rowLayout->addItem(d->leftIconSlot);
 
-    // Position 1: title column.
-    auto* titleColumn = new QVBoxLayout;
-    titleColumn->setContentsMargins(0, 0, 0, 0);
-    titleColumn->setSpacing(0);
+    // Position 1: title column (the second title joins it on first use).
+    d->titleColumn = new QVBoxLayout;
+    d->titleColumn->setContentsMargins(0, 0, 0, 0);
+    d->titleColumn->setSpacing(0);
     d->titleLabel = new RollLabel(this);
     d->titleLabel->setProperty(kTitleProperty, true);
-    d->secondTitleLabel = new QLabel(this);
-    d->secondTitleLabel->setProperty(kTitleProperty, true);
-    d->secondTitleLabel->hide();
-    titleColumn->addWidget(d->titleLabel);
-    titleColumn->addWidget(d->secondTitleLabel);
-    d->rowLayout->addLayout(titleColumn);
+    d->titleColumn->addWidget(d->titleLabel);
+    d->rowLayout->addLayout(d->titleColumn);
 
     // Position 2: the subclass's value widgets.
     d->dynamicFrame = new QFrame(this);
@@ -155,6 +136,70 @@ void CommonItemType::createWidgets()
     d->frameLayout->addLayout(d->rowLayout);
     d->frameLayout->addStretch();
     addUnderLine();
+}
+
+QString CommonItemType::smallLabelSheet() const
+{
+    return QStringLiteral("QLabel{font-size: %1px; }").arg(static_cast<int>(d->contentFontSize * 0.6));
+}
+
+void CommonItemType::ensureLeftIcon() const
+{
+    if (d->leftIconArea)
+        return;
+    auto* self = const_cast<CommonItemType*>(this);
+    d->leftIconArea = new QWidget(self);
+    auto* iconColumn = new QVBoxLayout(d->leftIconArea);
+    iconColumn->setContentsMargins(0, 0, 0, 0);
+    iconColumn->setSpacing(0);
+    d->leftIconButton = new QPushButton(d->leftIconArea);
+    d->leftIconButton->setObjectName(QStringLiteral("itemLeftIconButton"));
+    d->leftIconButton->setFocusPolicy(Qt::NoFocus);
+    d->leftIconButton->setEnabled(d->iconsEnabled);
+    d->leftIconButton->hide();
+    d->leftIconTitle = new RollLabel(d->leftIconArea);
+    d->leftIconTitle->setProperty(kTitleProperty, true);
+    d->leftIconTitle->setAlignment(Qt::AlignCenter);
+    if (d->fontSizeSet)
+        d->leftIconTitle->setStyleSheet(smallLabelSheet());
+    if (d->captionWidth >= 0) {
+        d->leftIconTitle->setWidth(d->captionWidth);
+        d->leftIconTitle->setItemName(d->caption);
+        d->leftIconTitle->setTextLabel(d->caption, false);
+    }
+    d->leftIconTitle->hide();
+    auto* buttonRow = new QHBoxLayout;
+    buttonRow->setContentsMargins(0, 0, 0, 0);
+    buttonRow->setAlignment(Qt::AlignHCenter);
+    buttonRow->addWidget(d->leftIconButton);
+    auto* captionRow = new QHBoxLayout;
+    captionRow->setContentsMargins(0, 0, 0, 0);
+    captionRow->setAlignment(Qt::AlignHCenter);
+    captionRow->addWidget(d->leftIconTitle);
+    iconColumn->addStretch();
+    iconColumn->addLayout(buttonRow);
+    iconColumn->addStretch();
+    iconColumn->addLayout(captionRow);
+    iconColumn->addStretch();
+    d->leftIconArea->hide(); // shown together with its button
+    int const slot = d->rowLayout->indexOf(d->leftIconSlot);
+    int const stretch = d->rowLayout->stretch(slot);
+    d->rowLayout->removeItem(d->leftIconSlot);
+    delete d->leftIconSlot;
+    d->leftIconSlot = nullptr;
+    d->rowLayout->insertWidget(slot, d->leftIconArea, stretch);
+}
+
+void CommonItemType::ensureSecondTitle() const
+{
+    if (d->secondTitleLabel)
+        return;
+    d->secondTitleLabel = new QLabel(const_cast<CommonItemType*>(this));
+    d->secondTitleLabel->setProperty(kTitleProperty, true);
+    if (d->fontSizeSet)
+        d->secondTitleLabel->setStyleSheet(smallLabelSheet());
+    d->secondTitleLabel->hide();
+    d->titleColumn->addWidget(d->secondTitleLabel);
 }
 
 // ---------------------------------------------------------------------------
@@ -194,6 +239,7 @@ void CommonItemType::setRightIconSize(QSize size) { d->rightIconButton->setFixed
 
 void CommonItemType::setLeftIconSize(QSize size)
 {
+    ensureLeftIcon();
     d->leftIconButton->setFixedSize(size);
     setLeftIconTitleHide(d->leftIconTitle->isHidden());
 }
@@ -201,11 +247,15 @@ void CommonItemType::setLeftIconSize(QSize size)
 void CommonItemType::setContentFontSize(int size)
 {
     d->contentFontSize = size;
-    d->titleLabel->setStyleSheet(QStringLiteral("QLabel{font-size: %1px; }").arg(size));
-    int const small = static_cast<int>(size * 0.6);
-    QString const smallSheet = QStringLiteral("QLabel{font-size: %1px; }").arg(small);
-    d->leftIconTitle->setStyleSheet(smallSheet);
-    d->secondTitleLabel->setStyleSheet(smallSheet);
+    d->fontSizeSet = true;
+    QString const sheet = QStringLiteral("QLabel{font-size: %1px; }").arg(size);
+    if (d->titleLabel->styleSheet() != sheet)
+        d->titleLabel->setStyleSheet(sheet);
+    QString const smallSheet = smallLabelSheet();
+    for (QLabel* label : {static_cast<QLabel*>(d->leftIconTitle), d->secondTitleLabel}) {
+        if (label && label->styleSheet() != smallSheet)
+            label->setStyleSheet(smallSheet);
+    }
 }
 
 void CommonItemType::setItemHeight(int height) { d->itemHeight = height; }
@@ -243,7 +293,11 @@ void CommonItemType::setItemTitleText(QString const& text) { setItemTitleRoll(te
 void CommonItemType::setItemTitleRoll(QString const& text, bool roll)
 {
     int dyn = 0;
-    calDynamicLayoutWidth(dyn);
+    // Before the row knows its width the title gets its least width whatever the
+    // value widgets take: don't measure them (that would polish them before the
+    // host has set their fonts, and every later style change would polish again).
+    if (d->itemWidth >= 0 || d->contentFontSize < 0)
+        calDynamicLayoutWidth(dyn);
     int const w = titleWidth(d->itemWidth, dyn, d->contentFontSize);
 
     d->itemTitle = text;
@@ -251,10 +305,13 @@ void CommonItemType::setItemTitleRoll(QString const& text, bool roll)
     d->titleLabel->setItemName(text);
     d->titleLabel->setTextLabel(text, roll);
 
-    QString const caption = captionText(text);
-    d->leftIconTitle->setWidth(w);
-    d->leftIconTitle->setItemName(caption);
-    d->leftIconTitle->setTextLabel(caption, false);
+    d->caption = captionText(text);
+    d->captionWidth = w;
+    if (d->leftIconTitle) {
+        d->leftIconTitle->setWidth(w);
+        d->leftIconTitle->setItemName(d->caption);
+        d->leftIconTitle->setTextLabel(d->caption, false);
+    }
 
     notifyTextChanged();
 }
@@ -295,6 +352,7 @@ void CommonItemType::setRollLabelStretchMax()
 void CommonItemType::setItemSecondTitle(QString const& text, int maxWidth)
 {
     d->secondTitle = text;
+    ensureSecondTitle();
     // maxWidth 0 (or any width below 1) never elides.
     d->secondTitleLabel->setText(elideWithDots(d->secondTitleLabel->fontMetrics(), text, maxWidth));
     notifyTextChanged();
@@ -304,18 +362,32 @@ QString CommonItemType::itemSecondTitle() const { return d->secondTitle; }
 
 void CommonItemType::setItemSecondTitleProperty(std::string const& name, QVariant value)
 {
+    ensureSecondTitle();
     setStyleProperty(d->secondTitleLabel, name.c_str(), value);
 }
 
-void CommonItemType::setItemSecondTitleStyleSheet(QString const& sheet) { d->secondTitleLabel->setStyleSheet(sheet); }
+void CommonItemType::setItemSecondTitleStyleSheet(QString const& sheet)
+{
+    ensureSecondTitle();
+    d->secondTitleLabel->setStyleSheet(sheet);
+}
 
-void CommonItemType::setItemSecondTitleLabelHide(bool hide) { d->secondTitleLabel->setHidden(hide); }
+void CommonItemType::setItemSecondTitleLabelHide(bool hide)
+{
+    if (hide && !d->secondTitleLabel)
+        return; // not built: hidden already
+    ensureSecondTitle();
+    d->secondTitleLabel->setHidden(hide);
+}
 
 // ---------------------------------------------------------------------------
 // Icons
 
 void CommonItemType::setLeftIconButtonHide(bool hide)
 {
+    if (hide && !d->leftIconArea)
+        return; // not built: hidden already
+    ensureLeftIcon();
     d->leftIconButton->setHidden(hide);
     // The icon area follows its button: hidden with it, shown again with it.
     d->leftIconArea->setHidden(hide);
@@ -325,6 +397,7 @@ void CommonItemType::setRightIconButtonHide(bool hide) { d->rightIconButton->set
 
 void CommonItemType::setLeftIconButtonProperty(std::string const& name, QVariant value)
 {
+    ensureLeftIcon();
     setStyleProperty(d->leftIconButton, name.c_str(), value);
 }
 
@@ -335,6 +408,9 @@ void CommonItemType::setRightIconButtonProperty(std::string const& name, QVarian
 
 void CommonItemType::setLeftIconTitleHide(bool hide)
 {
+    if (hide && !d->leftIconArea)
+        return; // not built: the caption and its area are hidden already
+    ensureLeftIcon();
     bool const buttonHidden = d->leftIconButton->isHidden();
     if (hide) {
         d->leftIconTitle->hide();
@@ -363,7 +439,9 @@ bool CommonItemType::getContentEnabled() const { return d->contentEnabled; }
 
 void CommonItemType::updateContentEnabled(bool enabled)
 {
-    d->leftIconButton->setEnabled(enabled);
+    d->iconsEnabled = enabled;
+    if (d->leftIconButton)
+        d->leftIconButton->setEnabled(enabled);
     d->rightIconButton->setEnabled(enabled);
     setStyleProperty(d->titleLabel, kTitleProperty, enabled);
     setContentDisabled(!enabled);
@@ -534,10 +612,22 @@ bool CommonItemType::eventFilter(QObject* watched, QEvent* event)
 QFrame* CommonItemType::dynamicFrame() const { return d->dynamicFrame; }
 QHBoxLayout* CommonItemType::dynamicLayout() const { return d->dynamicLayout; }
 QHBoxLayout* CommonItemType::rowLayout() const { return d->rowLayout; }
-QPushButton* CommonItemType::leftIconButton() const { return d->leftIconButton; }
+QPushButton* CommonItemType::leftIconButton() const
+{
+    ensureLeftIcon();
+    return d->leftIconButton;
+}
 QPushButton* CommonItemType::rightIconButton() const { return d->rightIconButton; }
-RollLabel* CommonItemType::leftIconTitle() const { return d->leftIconTitle; }
-QLabel* CommonItemType::secondTitleLabel() const { return d->secondTitleLabel; }
+RollLabel* CommonItemType::leftIconTitle() const
+{
+    ensureLeftIcon();
+    return d->leftIconTitle;
+}
+QLabel* CommonItemType::secondTitleLabel() const
+{
+    ensureSecondTitle();
+    return d->secondTitleLabel;
+}
 QLabel* CommonItemType::underLine() const { return d->underLine; }
 
 bool CommonItemType::canEdit(QWidget const* editor) const

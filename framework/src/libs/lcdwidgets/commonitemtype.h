@@ -118,7 +118,8 @@ signals:
     void signalSpinBoxValueChanged(int index, QVariant value);
 
 protected:
-    // Parts of the row for subclasses.
+    // Parts of the row for subclasses (the left icon's and the second title's parts
+    // are built when first asked for).
     QFrame* dynamicFrame() const;
     QHBoxLayout* dynamicLayout() const;
     QHBoxLayout* rowLayout() const;
@@ -136,6 +137,10 @@ protected:
 
 private:
     void createWidgets();
+    // The parts most rows never show, built when first reached.
+    void ensureLeftIcon() const;
+    void ensureSecondTitle() const;
+    QString smallLabelSheet() const;
 
     struct Impl;
     std::unique_ptr<Impl> d;

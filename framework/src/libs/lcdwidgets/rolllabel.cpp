@@ -5,10 +5,7 @@
 #include <QTextDocument>
 #include <QTimer>
 
-RollLabel::RollLabel(QWidget* parent) : QLabel(parent), m_timer(new QTimer(this))
-{
-    connect(m_timer, &QTimer::timeout, this, &RollLabel::updateText);
-}
+RollLabel::RollLabel(QWidget* parent) : QLabel(parent) {}
 
 RollLabel::~RollLabel() = default;
 
@@ -29,11 +26,8 @@ void RollLabel::setTextLabel(QString const& text, bool roll)
         return;
     }
     QString shown = text;
-    if (!roll) {
-        QFontMetrics const fm(font());
-        if (fm.horizontalAdvance(text) > m_width)
-            shown = fm.elidedText(text, Qt::ElideRight, m_width);
-    }
+    if (!roll && advanceOf(text) > m_width)
+        shown = QFontMetrics(font()).elidedText(text, Qt::ElideRight, m_width);
     QLabel::setText(shown);
     m_rollRequested = roll;
     upateLabelRollingState();
@@ -57,25 +51,38 @@ void RollLabel::setspeed(int step, int interval)
 void RollLabel::setPixmapLabel(QPixmap const& pixmap)
 {
     m_rolling = false;
-    m_timer->stop();
+    if (m_timer)
+        m_timer->stop();
     QLabel::setPixmap(pixmap);
 }
 
 bool RollLabel::getLabelRoll() const { return m_rollRequested; }
 
+int RollLabel::advanceOf(QString const& text) const
+{
+    QFont const& f = font();
+    if (m_measuredWidth < 0 || text != m_measuredText || f != m_measuredFont) {
+        m_measuredText = text;
+        m_measuredFont = f;
+        m_measuredWidth = QFontMetrics(f).horizontalAdvance(text);
+    }
+    return m_measuredWidth;
+}
+
 void RollLabel::upateLabelRollingState()
 {
-    QFontMetrics const fm(font());
-    m_textWidth = fm.horizontalAdvance(m_itemName);
+    m_textWidth = advanceOf(m_itemName);
     if (m_width < m_textWidth && m_rolling && m_rollRequested) {
+        QFontMetrics const fm(font());
         m_offset = 0;
         m_gapText = QStringLiteral(" ");
         m_gapWidth = fm.horizontalAdvance(m_gapText);
         m_paintText = m_itemName + m_gapText + m_itemName;
-        m_timer->start(m_interval);
+        rollTimer()->start(m_interval);
     } else {
         m_rolling = false;
-        m_timer->stop();
+        if (m_timer)
+            m_timer->stop();
         m_paintText.clear();
     }
 }
@@ -111,10 +118,19 @@ void RollLabel::changeEvent(QEvent* event)
         setTextLabel(m_sourceText, m_rollRequested);
 }
 
-bool RollLabel::isRolling() const { return m_rolling && m_timer->isActive(); }
+bool RollLabel::isRolling() const { return m_rolling && m_timer && m_timer->isActive(); }
 int RollLabel::scrollOffset() const { return m_offset; }
 int RollLabel::textWidth() const { return m_textWidth; }
 int RollLabel::gapWidth() const { return m_gapWidth; }
 int RollLabel::storedWidth() const { return m_width; }
 QString RollLabel::itemName() const { return m_itemName; }
-QTimer* RollLabel::rollTimer() const { return m_timer; }
+QTimer* RollLabel::rollTimer() const
+{
+    // Most labels never roll: the marquee's timer is made when first needed.
+    if (!m_timer) {
+        auto* self = const_cast<RollLabel*>(this);
+        m_timer = new QTimer(self);
+        connect(m_timer, &QTimer::timeout, self, &RollLabel::updateText);
+    }
+    return m_timer;
+}

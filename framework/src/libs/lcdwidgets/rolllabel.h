@@ -4,6 +4,7 @@
 
 #include "lcdwidgets_global.h"
 
+#include <QFont>
 #include <QLabel>
 
 class QTimer;
@@ -60,8 +61,14 @@ private:
     bool m_rolling = false;
     bool m_rollRequested = false;
     int m_width = 0;
-    QTimer* m_timer = nullptr;
+    mutable QTimer* m_timer = nullptr;
     QString m_itemName;
     QString m_sourceText; // last text given to setTextLabel
     QString m_paintText; // item name + gap + item name, built once when rolling starts
+    // Text widths are shaped once per text and font: titles are laid out several
+    // times while a page is built.
+    int advanceOf(QString const& text) const;
+    mutable QString m_measuredText;
+    mutable QFont m_measuredFont;
+    mutable int m_measuredWidth = -1;
 };

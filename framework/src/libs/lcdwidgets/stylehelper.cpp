@@ -11,6 +11,10 @@ void repolish(QWidget* widget)
 {
     if (!widget)
         return;
+    // A widget not polished yet matches the sheet's selectors when it is: polishing
+    // it now would only be done again then.
+    if (!widget->testAttribute(Qt::WA_WState_Polished))
+        return;
     QStyle* style = widget->style();
     style->unpolish(widget);
     style->polish(widget);
