@@ -6,5 +6,7 @@ QList<PageInfo> galleryPages()
         {QStringLiteral("items"), buildItemsPage},
         {QStringLiteral("display"), buildDisplayPage},
         {QStringLiteral("numbers"), buildNumbersPage},
+        // Instruments
+        {QStringLiteral("instruments"), buildInstrumentsPage},
     };
 }
