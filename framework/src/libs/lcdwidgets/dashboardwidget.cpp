@@ -89,8 +89,8 @@ struct DashBoardWidget::Impl
     bool selected = false;
     int fraction = 1;
     int stepScale = kStepScale;
-    QString unit = QStringLiteral("unit");
-    QString text = QStringLiteral("test");
+    QString unit = QString::fromLatin1("unit");
+    QString text = QString::fromLatin1("test");
     QColor arcColor = DEFAULT_ARG_COLOR;
     QColor scaleColor = DEFAULT_SCALE_COLOR;
     QColor pointerColor = DEFAULT_POINTER_COLOR;
