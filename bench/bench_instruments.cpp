@@ -173,7 +173,8 @@ public:
             if (run.error_occurred || run.iterations == 0)
                 continue;
             // Reported in the benchmark's own unit: back to nanoseconds.
-            cpuNs[run.benchmark_name()] = run.GetAdjustedCPUTime() / benchmark::GetTimeUnitMultiplier(run.time_unit) * 1e9;
+            cpuNs[run.benchmark_name()] =
+                run.GetAdjustedCPUTime() / benchmark::GetTimeUnitMultiplier(run.time_unit) * 1e9;
             auto it = run.counters.find("frames/step");
             if (it != run.counters.end())
                 framesPerStep[run.benchmark_name()] = it->second;

@@ -24,7 +24,12 @@ ItemDataInfoArray layoutTemplate()
 
 QString describe(ItemDataInfo const& i)
 {
-    return QStringLiteral("%1 %2,%3 %4x%5").arg(QString::fromStdString(i.text)).arg(i.x).arg(i.y).arg(i.width).arg(i.height);
+    return QStringLiteral("%1 %2,%3 %4x%5")
+        .arg(QString::fromStdString(i.text))
+        .arg(i.x)
+        .arg(i.y)
+        .arg(i.width)
+        .arg(i.height);
 }
 
 } // namespace
@@ -197,7 +202,8 @@ private slots:
         QTest::addColumn<int>("minimum");
         QTest::addColumn<ItemDataInfo>("expected");
         ItemDataInfo const hd = info("", 0, 0, 1920, 1080);
-        QTest::newRow("inside: unchanged") << info("c", 100, 100, 800, 600) << hd << 16 << info("c", 100, 100, 800, 600);
+        QTest::newRow("inside: unchanged")
+            << info("c", 100, 100, 800, 600) << hd << 16 << info("c", 100, 100, 800, 600);
         QTest::newRow("moved past the right: stops at the edge")
             << info("", 1500, 100, 800, 600) << hd << 16 << info("", 1120, 100, 800, 600);
         QTest::newRow("moved past the top-left") << info("", -40, -1, 800, 600) << hd << 16 << info("", 0, 0, 800, 600);

@@ -203,7 +203,9 @@ private slots:
         d.setCurrentValue(12.34);
         QStringList order;
         connect(&d, &DashBoardWidget::signalValueChanged, this,
-                [&order](QVariant const& v) { order << QStringLiteral("value %1 %2").arg(QLatin1String(v.typeName())).arg(double(v.toFloat())); });
+                [&order](QVariant const& v) {
+                    order << QStringLiteral("value %1 %2").arg(QLatin1String(v.typeName())).arg(double(v.toFloat()));
+                });
         connect(&d, &DashBoardWidget::signalEditFinished, this, [&order] { order << QStringLiteral("finished"); });
         connect(&d, &DashBoardWidget::signalCloseEditStatus, this, [&order] { order << QStringLiteral("closed"); });
         press(&d, Qt::Key_Enter);
@@ -279,6 +281,23 @@ private slots:
         QVERIFY(watch.qtWarnings().isEmpty());
     }
 
+    void extremeRangesStayFinite()
+    {
+        DashBoardWidget d;
+        d.resize(120, 120);
+        d.setMin(-1.0e308);
+        d.setmax(1.0e308); // the span overflows to infinity
+        d.setFraction(0);
+        WarningWatch watch;
+        d.grab();
+        QSignalSpy values(&d, &DashBoardWidget::signalValueChanged);
+        press(&d, Qt::Key_Down, QStringLiteral("1e9"));
+        press(&d, Qt::Key_Up, QStringLiteral("nan"));
+        QVERIFY(std::isfinite(d.targetValue()));
+        d.grab();
+        QVERIFY(watch.qtWarnings().isEmpty());
+    }
+
     void paintsTheDefaultFace()
     {
         DashBoardWidget d;
@@ -309,7 +328,8 @@ private slots:
     void paintsAtAnySize()
     {
         WarningWatch watch;
-        for (QSize s : {QSize(0, 0), QSize(1, 1), QSize(10, 40), QSize(24, 24), QSize(2000, 30)}) {
+        // The last one is too large to keep its face in a pixmap.
+        for (QSize s : {QSize(0, 0), QSize(1, 1), QSize(10, 40), QSize(24, 24), QSize(2000, 30), QSize(2100, 2100)}) {
             DashBoardWidget d;
             d.setFraction(0);
             d.setScaleMajor(100);

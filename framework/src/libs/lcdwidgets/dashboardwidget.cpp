@@ -35,6 +35,8 @@ constexpr int kMaxTicks = 1000;
 constexpr int kMaxFraction = 10;
 constexpr int kStepScale = 100;
 constexpr char kFontFamily[] = "Microsoft YaHei";
+// Largest face kept as a pixmap (in device pixels).
+constexpr qint64 kMaxFacePixels = 2048 * 2048;
 
 // The content font size every dial shares, and the dials that repaint with it.
 int g_contentFontSize = 20;
@@ -111,7 +113,68 @@ struct DashBoardWidget::Impl
     bool drawnOnce = false;
 
     bool rangeValid() const { return min <= max; }
+    void drawFace(QPainter& p, int w, int h) const;
 };
+
+// The face: background, arc, ticks and scale numbers (everything but the pointer and
+// the value), with the origin of `p` at the widget's top-left corner.
+void DashBoardWidget::Impl::drawFace(QPainter& p, int w, int h) const
+{
+    int const side = qMin(w, h);
+    double const R = side / 3.0;
+    double const span = endAngle - startAngle;
+    // 1. Background.
+    if (backgroundColor != QColor(Qt::transparent)) {
+        p.setPen(Qt::NoPen);
+        p.fillRect(QRect(0, 0, w, h), backgroundColor);
+    }
+    // 2. Origin in the middle.
+    p.translate(w / 2, h / 2);
+
+    // 3. Arc.
+    int const penWidth = arcWidth > 0 ? arcWidth : side / 15;
+    double const r = R - penWidth;
+    QPen arcPen(arcColor, penWidth, Qt::SolidLine, Qt::FlatCap);
+    p.setPen(arcPen);
+    p.setBrush(Qt::NoBrush);
+    p.drawArc(QRectF(-r, -r, 2 * r, 2 * r), clampToInt(startAngle * 16), clampToInt(span * 16));
+
+    // 4. Ticks.
+    p.save();
+    p.rotate(270.0 - endAngle);
+    int const n = scaleMajor * scaleMinor;
+    double const tickStep = span / n;
+    QPen tickPen(scaleColor, 1.0, Qt::SolidLine, Qt::RoundCap);
+    for (int i = 0; i <= n; ++i) {
+        if (i % scaleMinor == 0) {
+            tickPen.setWidthF(1.5);
+            p.setPen(tickPen);
+            p.drawLine(QPointF(0, R - 8), QPointF(0, R + 5));
+        } else {
+            tickPen.setWidthF(0.5);
+            p.setPen(tickPen);
+            p.drawLine(QPointF(0, R - 8), QPointF(0, R - 3));
+        }
+        p.rotate(tickStep);
+    }
+    p.restore();
+
+    // 5. Scale numbers.
+    p.setPen(scaleColor);
+    QFont font(QString::fromLatin1(kFontFamily));
+    font.setPointSize(qMax(1, side / 25));
+    p.setFont(font);
+    QFontMetricsF const fm(font);
+    double const radius = side / 2.4;
+    for (int i = 0; i <= scaleMajor; ++i) {
+        double const angle = qDegreesToRadians(endAngle - i * span / scaleMajor);
+        double const number = min + i * (max - min) / scaleMajor;
+        QString const s = formatNumber(number, fraction);
+        double const x = radius * std::cos(angle) - fm.horizontalAdvance(s) / 2;
+        double const y = -radius * std::sin(angle) + fm.height() / 4;
+        p.drawText(QPointF(x, y), s);
+    }
+}
 
 DashBoardWidget::DashBoardWidget(QWidget* parent) : QWidget(parent), d(std::make_unique<Impl>())
 {
@@ -496,65 +559,17 @@ void DashBoardWidget::paintEvent(QPaintEvent*)
     double const R = side / 3.0;
     double const span = d->endAngle - d->startAngle;
 
-    if (!d->faceValid) {
-        qreal const dpr = devicePixelRatioF();
+    // The face is drawn once into a pixmap and reused while nothing it shows changes;
+    // a dial too large for a sensible pixmap draws it straight away.
+    qreal const dpr = devicePixelRatioF();
+    bool const cached = qint64(w) * h * dpr * dpr <= kMaxFacePixels;
+    if (cached && (!d->faceValid || d->face.devicePixelRatioF() != dpr)) {
         d->face = QPixmap(QSize(w, h) * dpr);
         d->face.setDevicePixelRatio(dpr);
         d->face.fill(Qt::transparent);
         QPainter p(&d->face);
         p.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
-
-        // 1. Background.
-        if (d->backgroundColor != QColor(Qt::transparent)) {
-            p.setPen(Qt::NoPen);
-            p.fillRect(QRect(0, 0, w, h), d->backgroundColor);
-        }
-        // 2. Origin in the middle.
-        p.translate(w / 2, h / 2);
-
-        // 3. Arc.
-        int const penWidth = d->arcWidth > 0 ? d->arcWidth : side / 15;
-        double const r = R - penWidth;
-        QPen arcPen(d->arcColor, penWidth, Qt::SolidLine, Qt::FlatCap);
-        p.setPen(arcPen);
-        p.setBrush(Qt::NoBrush);
-        p.drawArc(QRectF(-r, -r, 2 * r, 2 * r), clampToInt(d->startAngle * 16), clampToInt(span * 16));
-
-        // 4. Ticks.
-        p.save();
-        p.rotate(270.0 - d->endAngle);
-        int const n = d->scaleMajor * d->scaleMinor;
-        double const tickStep = span / n;
-        QPen tickPen(d->scaleColor, 1.0, Qt::SolidLine, Qt::RoundCap);
-        for (int i = 0; i <= n; ++i) {
-            if (i % d->scaleMinor == 0) {
-                tickPen.setWidthF(1.5);
-                p.setPen(tickPen);
-                p.drawLine(QPointF(0, R - 8), QPointF(0, R + 5));
-            } else {
-                tickPen.setWidthF(0.5);
-                p.setPen(tickPen);
-                p.drawLine(QPointF(0, R - 8), QPointF(0, R - 3));
-            }
-            p.rotate(tickStep);
-        }
-        p.restore();
-
-        // 5. Scale numbers.
-        p.setPen(d->scaleColor);
-        QFont font(QString::fromLatin1(kFontFamily));
-        font.setPointSize(qMax(1, side / 25));
-        p.setFont(font);
-        QFontMetricsF const fm(font);
-        double const radius = side / 2.4;
-        for (int i = 0; i <= d->scaleMajor; ++i) {
-            double const angle = qDegreesToRadians(d->endAngle - i * span / d->scaleMajor);
-            double const number = d->min + i * (d->max - d->min) / d->scaleMajor;
-            QString const s = formatNumber(number, d->fraction);
-            double const x = radius * std::cos(angle) - fm.horizontalAdvance(s) / 2;
-            double const y = -radius * std::sin(angle) + fm.height() / 4;
-            p.drawText(QPointF(x, y), s);
-        }
+        d->drawFace(p, w, h);
         d->faceValid = true;
     }
 
@@ -562,7 +577,14 @@ void DashBoardWidget::paintEvent(QPaintEvent*)
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
     if (!isEnabled())
         painter.setOpacity(0.4);
-    painter.drawPixmap(0, 0, d->face);
+    if (cached) {
+        painter.drawPixmap(0, 0, d->face);
+    } else {
+        d->face = QPixmap();
+        painter.save();
+        d->drawFace(painter, w, h);
+        painter.restore();
+    }
     painter.translate(w / 2, h / 2);
 
     // 6. Pointer.
