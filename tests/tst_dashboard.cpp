@@ -140,6 +140,7 @@ private slots:
         QCOMPARE(d.value(), 0.0);
         QSignalSpy values(&d, &DashBoardWidget::signalValueChanged);
 
+        QTest::ignoreMessage(QtDebugMsg, "DashBoardWidget::valueChange d->realStep: 150");
         press(&d, Qt::Key_Down, QStringLiteral("1")); // Down raises
         QCOMPARE(d.realStep(), 150);
         QCOMPARE(d.targetValue(), 1.5);
