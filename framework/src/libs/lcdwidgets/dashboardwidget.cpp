@@ -113,40 +113,44 @@ struct DashBoardWidget::Impl
     bool drawnOnce = false;
 
     bool rangeValid() const { return min <= max; }
-    void drawFace(QPainter& p, int w, int h) const;
 };
+
+namespace {
 
 // The face: background, arc, ticks and scale numbers (everything but the pointer and
 // the value), with the origin of `p` at the widget's top-left corner.
-void DashBoardWidget::Impl::drawFace(QPainter& p, int w, int h) const
+// A template over the dial's private state, so that the helper stays local to this
+// file (a member of the exported class's state would be exported with it).
+template <typename State>
+void drawFace(State const& st, QPainter& p, int w, int h)
 {
     int const side = qMin(w, h);
     double const R = side / 3.0;
-    double const span = endAngle - startAngle;
+    double const span = st.endAngle - st.startAngle;
     // 1. Background.
-    if (backgroundColor != QColor(Qt::transparent)) {
+    if (st.backgroundColor != QColor(Qt::transparent)) {
         p.setPen(Qt::NoPen);
-        p.fillRect(QRect(0, 0, w, h), backgroundColor);
+        p.fillRect(QRect(0, 0, w, h), st.backgroundColor);
     }
     // 2. Origin in the middle.
     p.translate(w / 2, h / 2);
 
     // 3. Arc.
-    int const penWidth = arcWidth > 0 ? arcWidth : side / 15;
+    int const penWidth = st.arcWidth > 0 ? st.arcWidth : side / 15;
     double const r = R - penWidth;
-    QPen arcPen(arcColor, penWidth, Qt::SolidLine, Qt::FlatCap);
+    QPen arcPen(st.arcColor, penWidth, Qt::SolidLine, Qt::FlatCap);
     p.setPen(arcPen);
     p.setBrush(Qt::NoBrush);
-    p.drawArc(QRectF(-r, -r, 2 * r, 2 * r), clampToInt(startAngle * 16), clampToInt(span * 16));
+    p.drawArc(QRectF(-r, -r, 2 * r, 2 * r), clampToInt(st.startAngle * 16), clampToInt(span * 16));
 
     // 4. Ticks.
     p.save();
-    p.rotate(270.0 - endAngle);
-    int const n = scaleMajor * scaleMinor;
+    p.rotate(270.0 - st.endAngle);
+    int const n = st.scaleMajor * st.scaleMinor;
     double const tickStep = span / n;
-    QPen tickPen(scaleColor, 1.0, Qt::SolidLine, Qt::RoundCap);
+    QPen tickPen(st.scaleColor, 1.0, Qt::SolidLine, Qt::RoundCap);
     for (int i = 0; i <= n; ++i) {
-        if (i % scaleMinor == 0) {
+        if (i % st.scaleMinor == 0) {
             tickPen.setWidthF(1.5);
             p.setPen(tickPen);
             p.drawLine(QPointF(0, R - 8), QPointF(0, R + 5));
@@ -160,21 +164,23 @@ void DashBoardWidget::Impl::drawFace(QPainter& p, int w, int h) const
     p.restore();
 
     // 5. Scale numbers.
-    p.setPen(scaleColor);
+    p.setPen(st.scaleColor);
     QFont font(QString::fromLatin1(kFontFamily));
     font.setPointSize(qMax(1, side / 25));
     p.setFont(font);
     QFontMetricsF const fm(font);
     double const radius = side / 2.4;
-    for (int i = 0; i <= scaleMajor; ++i) {
-        double const angle = qDegreesToRadians(endAngle - i * span / scaleMajor);
-        double const number = min + i * (max - min) / scaleMajor;
-        QString const s = formatNumber(number, fraction);
+    for (int i = 0; i <= st.scaleMajor; ++i) {
+        double const angle = qDegreesToRadians(st.endAngle - i * span / st.scaleMajor);
+        double const number = st.min + i * (st.max - st.min) / st.scaleMajor;
+        QString const s = formatNumber(number, st.fraction);
         double const x = radius * std::cos(angle) - fm.horizontalAdvance(s) / 2;
         double const y = -radius * std::sin(angle) + fm.height() / 4;
         p.drawText(QPointF(x, y), s);
     }
 }
+
+} // namespace
 
 DashBoardWidget::DashBoardWidget(QWidget* parent) : QWidget(parent), d(std::make_unique<Impl>())
 {
@@ -569,7 +575,7 @@ void DashBoardWidget::paintEvent(QPaintEvent*)
         d->face.fill(Qt::transparent);
         QPainter p(&d->face);
         p.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
-        d->drawFace(p, w, h);
+        drawFace(*d, p, w, h);
         d->faceValid = true;
     }
 
@@ -582,7 +588,7 @@ void DashBoardWidget::paintEvent(QPaintEvent*)
     } else {
         d->face = QPixmap();
         painter.save();
-        d->drawFace(painter, w, h);
+        drawFace(*d, painter, w, h);
         painter.restore();
     }
     painter.translate(w / 2, h / 2);
