@@ -7,5 +7,7 @@ QList<PageInfo> galleryPages()
         {QStringLiteral("display"), buildDisplayPage},
         {QStringLiteral("numbers"), buildNumbersPage},
         {QStringLiteral("lists"), buildListsPage},
+        // Instruments
+        {QStringLiteral("instruments"), buildInstrumentsPage},
     };
 }

@@ -21,6 +21,8 @@ ItemPage* buildItemsPage(GalleryContext& context);
 ItemPage* buildDisplayPage(GalleryContext& context);
 ItemPage* buildNumbersPage(GalleryContext& context);
 ItemPage* buildListsPage(GalleryContext& context);
+// Instruments: dials and the crop drawing
+ItemPage* buildInstrumentsPage(GalleryContext& context);
 
 // Sections that other pages include.
 void addBarSection(ItemPage* page, GalleryContext& context);      // bottom and reset/apply bars (Display page)

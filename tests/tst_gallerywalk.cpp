@@ -8,6 +8,7 @@
 #include "knob.h"
 
 #include <commonitemtype.h>
+#include <lcdwidgets.h>
 
 #include <QSignalSpy>
 #include <QtTest>
@@ -18,6 +19,8 @@ class TestGalleryWalk : public QObject
 private slots:
     void everyRowEditsAndGivesTheKnobBack();
     void knobWalksTheRows();
+    // Instruments page
+    void instrumentsPageWorksWithTheKnob();
 };
 
 void TestGalleryWalk::everyRowEditsAndGivesTheKnobBack()
@@ -79,6 +82,64 @@ void TestGalleryWalk::knobWalksTheRows()
     QCOMPARE(page->currentIndex(), 0);
     QCOMPARE(page->itemAt(0)->property("galleryCurrent"), QVariant(true));
     QCOMPARE(page->itemAt(3)->property("galleryCurrent"), QVariant(false));
+}
+
+// ---- Instruments page: a dial turned, the crop moved to the picture's edge ----
+void TestGalleryWalk::instrumentsPageWorksWithTheKnob()
+{
+    GalleryHostApi host;
+    GalleryContext context;
+    context.host = &host;
+    GalleryWindow window(context, QStringLiteral("lcdwidgets 0.1.0"));
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    int index = -1;
+    for (int p = 0; p < window.pageCount(); ++p)
+        if (window.pageId(p) == QLatin1String("instruments"))
+            index = p;
+    QVERIFY(index >= 0);
+    window.showPage(index);
+    ItemPage* page = window.page(index);
+    page->activate();
+
+    auto* dials = qobject_cast<LCD::Widget::TypeItemDashBoard*>(page->itemAt(0));
+    QVERIFY(dials);
+    page->setCurrentIndex(0);
+    Knob::press(page->list());                   // choose a dial
+    Knob::turn(QApplication::focusWidget(), -1); // Down: the second dial
+    Knob::press(QApplication::focusWidget());    // it takes the knob
+    LCD::Widget::DashBoardWidget* tbar = dials->dashBoard(1);
+    QCOMPARE(QApplication::focusWidget(), tbar);
+    double const before = tbar->targetValue();
+    Knob::turn(tbar, -2); // Down raises
+    QCOMPARE(tbar->targetValue(), before + 2);
+    Knob::back(tbar);
+    Knob::back(QApplication::focusWidget());
+    QCOMPARE(QApplication::focusWidget(), page->list());
+    QVERIFY(!page->isEditing());
+
+    // The crop: the drawing's press leads to the rows; a fast turn of the left edge
+    // stops where the crop touches the picture's right edge.
+    int drawing = -1;
+    for (int i = 0; i < page->count(); ++i)
+        if (qobject_cast<LCD::Widget::TypeDrawCropWidget*>(page->itemAt(i)))
+            drawing = i; // the last one is the crop
+    QVERIFY(drawing > 0);
+    auto* crop = qobject_cast<LCD::Widget::TypeDrawCropWidget*>(page->itemAt(drawing));
+    page->setCurrentIndex(drawing);
+    Knob::press(page->list());
+    QCOMPARE(page->currentIndex(), drawing + 1);
+    Knob::press(page->list());
+    for (int i = 0; i < 40; ++i)
+        Knob::turn(QApplication::focusWidget(), 1, 0.05);
+    Knob::back(QApplication::focusWidget());
+    auto const rects = crop->view()->drawScene()->cropRectInfo();
+    QCOMPARE(rects.size(), size_t(2));
+    LCD::Widget::ItemDataInfo const picture = rects.at(0).second;
+    LCD::Widget::ItemDataInfo const cropped = rects.at(1).second;
+    QVERIFY(rects.at(1).first);
+    QCOMPARE(cropped.x + cropped.width, picture.x + picture.width);
+    QVERIFY(cropped.x > 0);
 }
 
 QTEST_MAIN(TestGalleryWalk)

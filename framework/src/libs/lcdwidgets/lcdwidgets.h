@@ -54,3 +54,13 @@
 #include "typedualint.h"
 #include "extendspinbox.h"
 #include "typespinadjust.h"
+
+// Instruments and drawing
+#include "dashboardwidget.h"
+#include "dashboardlabel.h"
+#include "typeitemdashboard.h"
+#include "itemdatainfo.h"
+#include "drawgraphicsrectitem.h"
+#include "drawgraphicsscene.h"
+#include "drawgraphicsview.h"
+#include "typedrawcropwidget.h"

@@ -1,0 +1,44 @@
+// An item row that carries a crop drawing (a DrawGraphicsView) in the middle of the
+// row, without icons or title. The knob's press (editValue()) reports
+// signalClicked(false): the host opens its crop settings from there.
+#pragma once
+
+#include "commonitemtype.h"
+#include "itemdatainfo.h"
+#include "lcdwidgets_global.h"
+
+#include <memory>
+
+namespace LCD {
+namespace Widget {
+
+class DrawGraphicsView;
+
+class LCDWIDGETS_EXPORT TypeDrawCropWidget : public CommonItemType
+{
+    Q_OBJECT
+public:
+    explicit TypeDrawCropWidget(QWidget* parent = nullptr);
+    ~TypeDrawCropWidget() override;
+
+    void setItemInfo(std::vector<ItemDataInfo> const& infos);
+    void setCropRectInfo(CropRectInfoArray const& infos);
+    // View height h minus the content font size (results below 1 are refused).
+    void setCropViewHeight(int h);
+    void setContentFontSize(int size) override;
+    void setContentDisabled(bool disabled) const override;
+    int getWidgetRow() override;
+    void editValue() override;
+
+    DrawGraphicsView* view() const;
+
+signals:
+    void signalClicked(bool checked);
+
+private:
+    struct Impl;
+    std::unique_ptr<Impl> d;
+};
+
+} // namespace Widget
+} // namespace LCD
