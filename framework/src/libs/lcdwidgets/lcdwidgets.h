@@ -50,3 +50,9 @@
 #include "typedualint.h"
 #include "extendspinbox.h"
 #include "typespinadjust.h"
+
+// IP address entry and the number pad
+#include "iplineedit.h"
+#include "ipedit.h"
+#include "typeipadjust.h"
+#include "numberpad.h"
