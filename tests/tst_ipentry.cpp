@@ -310,10 +310,14 @@ void TestIpEntry::ipEditFocusAndKeys()
     Knob::back(e);
     QCOMPARE(QApplication::focusWidget(), e);
 
-    // At the ends the key is not the editor's: it goes on to the page.
+    // At the ends the key is not the editor's: it goes on to the page, and the
+    // knob's level text is never typed.
     e->field(0)->setFocus();
-    QVERIFY(!Knob::key(e, Qt::Key_Up));
-    QCOMPARE(QApplication::focusWidget(), e->field(0));
+    QVERIFY(!Knob::key(e, Qt::Key_Up, QStringLiteral("1")));
+    e->field(3)->setFocus();
+    QVERIFY(!Knob::key(e, Qt::Key_Down, QStringLiteral("7")));
+    QCOMPARE(QApplication::focusWidget(), e->field(3));
+    QCOMPARE(e->ipText(), QStringLiteral("10.1.2.255"));
 }
 
 void TestIpEntry::ipEditReportsOneEditPerVisit()

@@ -181,7 +181,8 @@ bool IPEdit::eventFilter(QObject* watched, QEvent* event)
                 focusField(i - 1);
                 return true;
             }
-            return false;
+            passOn(key);
+            return true;
         case Qt::Key_Down:
         case Qt::Key_Minus:
         case Qt::Key_Period:
@@ -189,7 +190,8 @@ bool IPEdit::eventFilter(QObject* watched, QEvent* event)
                 focusField(i + 1);
                 return true;
             }
-            return false;
+            passOn(key);
+            return true;
         case Qt::Key_Backspace:
         case Qt::Key_Delete:
         case Qt::Key_Left:
@@ -205,6 +207,16 @@ bool IPEdit::eventFilter(QObject* watched, QEvent* event)
         break;
     }
     return QFrame::eventFilter(watched, event);
+}
+
+void IPEdit::passOn(QKeyEvent* event)
+{
+    // A field would type the level text of a knob turn: the key goes to the frame,
+    // and from there (through its filters) on to the page.
+    QKeyEvent copy(event->type(), event->key(), event->modifiers(), event->text(), event->isAutoRepeat(),
+                   ushort(event->count()));
+    QApplication::sendEvent(this, &copy);
+    event->setAccepted(copy.isAccepted());
 }
 
 void IPEdit::keyPressEvent(QKeyEvent* event)

@@ -10,6 +10,7 @@
 #include <QString>
 
 class QLabel;
+class QKeyEvent;
 class QLineEdit;
 
 namespace LCD {
@@ -49,6 +50,7 @@ private:
     int indexOf(QObject* field) const;
     void focusField(int index) const;
     void leaveFields();
+    void passOn(QKeyEvent* event);
 
     QLineEdit* m_fields[4] = {nullptr, nullptr, nullptr, nullptr};
     QLabel* m_dots[3] = {nullptr, nullptr, nullptr};

@@ -56,3 +56,6 @@
 #include "ipedit.h"
 #include "typeipadjust.h"
 #include "numberpad.h"
+
+// Device pages
+#include "networksettings.h"
