@@ -6,5 +6,8 @@ QList<PageInfo> galleryPages()
         {QStringLiteral("items"), buildItemsPage},
         {QStringLiteral("display"), buildDisplayPage},
         {QStringLiteral("numbers"), buildNumbersPage},
+        // Device pages
+        {QStringLiteral("network"), buildNetworkPage},
+        {QStringLiteral("switchers"), buildSwitchersPage},
     };
 }

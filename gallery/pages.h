@@ -20,6 +20,9 @@ QList<PageInfo> galleryPages();
 ItemPage* buildItemsPage(GalleryContext& context);
 ItemPage* buildDisplayPage(GalleryContext& context);
 ItemPage* buildNumbersPage(GalleryContext& context);
+// Device pages
+ItemPage* buildNetworkPage(GalleryContext& context);
+ItemPage* buildSwitchersPage(GalleryContext& context);
 
 // Sections that other pages include.
 void addBarSection(ItemPage* page, GalleryContext& context);      // bottom and reset/apply bars (Display page)

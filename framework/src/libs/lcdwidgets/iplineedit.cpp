@@ -209,9 +209,11 @@ void IPLineEdit::setHeight(int height)
 {
     if (height < 1)
         return;
-    int const h = qMin(height, QWIDGETSIZE_MAX);
+    int const h = qMin(height, QWIDGETSIZE_MAX - 12);
     for (QLineEdit* f : m_fields)
         f->setFixedHeight(h);
+    m_fieldHeight = h;
+    updateFieldWidths();
 }
 
 void IPLineEdit::updateFieldWidths()
@@ -221,6 +223,9 @@ void IPLineEdit::updateFieldWidths()
     int const w = fm.horizontalAdvance(QStringLiteral("000")) + 8;
     for (QLineEdit* f : m_fields)
         f->setFixedWidth(w);
+    // The frame is a line edit: its own size hint knows nothing of the fields.
+    int const fieldHeight = m_fieldHeight > 0 ? m_fieldHeight : m_fields[0]->sizeHint().height();
+    setFixedHeight(fieldHeight + 12);
 }
 
 void IPLineEdit::setLineEditProperty(char const* name, QVariant const& value) const

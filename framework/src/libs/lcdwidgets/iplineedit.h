@@ -75,6 +75,7 @@ private:
     int m_index = -1;
     bool m_isEdit = false;
     int m_fontSize = 20;
+    int m_fieldHeight = -1; // set by setHeight(); -1: the fields' own height
 };
 
 } // namespace Widget

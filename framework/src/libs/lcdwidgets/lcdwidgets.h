@@ -59,3 +59,5 @@
 
 // Device pages
 #include "networksettings.h"
+#include "adddevice.h"
+#include "switcherselect.h"
