@@ -9,5 +9,6 @@ QList<PageInfo> galleryPages()
         // Device pages
         {QStringLiteral("network"), buildNetworkPage},
         {QStringLiteral("switchers"), buildSwitchersPage},
+        {QStringLiteral("tbar"), buildTBarPage},
     };
 }

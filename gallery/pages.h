@@ -23,6 +23,7 @@ ItemPage* buildNumbersPage(GalleryContext& context);
 // Device pages
 ItemPage* buildNetworkPage(GalleryContext& context);
 ItemPage* buildSwitchersPage(GalleryContext& context);
+ItemPage* buildTBarPage(GalleryContext& context);
 
 // Sections that other pages include.
 void addBarSection(ItemPage* page, GalleryContext& context);      // bottom and reset/apply bars (Display page)

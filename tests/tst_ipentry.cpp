@@ -249,8 +249,13 @@ void TestIpEntry::disabledRowDoesNotEdit()
     QCOMPARE(QApplication::focusWidget(), &page);
     row->setContentFontSize(0); // refused, no Qt warning
     row->setContentFontSize(24);
-    QCOMPARE(row->lineEdit()->width() > 0 || row->lineEdit()->maximumWidth() == 192, true);
-    QCOMPARE(row->lineEdit()->maximumWidth(), 192);
+    IPLineEdit* e = row->lineEdit();
+    QCOMPARE(e->minimumWidth(), e->maximumWidth());
+    QCOMPARE(e->maximumWidth(), qMax(192, e->fieldsWidth()));
+    // Every field shows three digits whole.
+    QFont font = e->field(0)->font();
+    QCOMPARE(font.pixelSize(), 24);
+    QVERIFY(e->field(0)->width() >= QFontMetrics(font).horizontalAdvance(QStringLiteral("255")));
 }
 
 void TestIpEntry::ipEditParsesAndJoins()

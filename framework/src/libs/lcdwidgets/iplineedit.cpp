@@ -59,6 +59,8 @@ IPLineEdit::IPLineEdit(QWidget* parent) : QLineEdit(parent), m_parent(parent)
     auto* layout = new QHBoxLayout(this);
     layout->setSpacing(4);
     layout->setContentsMargins(0, 6, 8, 6);
+    // Spare width goes around the address, not between its octets.
+    layout->addStretch();
 
     static QRegExp const firstRule(QStringLiteral("^[1-9][0-9]*$"));
     static QRegExp const otherRule(QStringLiteral("^[0-9][0-9]*$"));
@@ -92,6 +94,7 @@ IPLineEdit::IPLineEdit(QWidget* parent) : QLineEdit(parent), m_parent(parent)
             layout->addWidget(dot);
         }
     }
+    layout->addStretch();
     updateFieldWidths();
     if (qApp)
         connect(qApp, &QApplication::focusChanged, this, &IPLineEdit::slotFocusChanged);
@@ -181,6 +184,8 @@ int IPLineEdit::getStep(float level) const
     return static_cast<int>(scaled);
 }
 
+int IPLineEdit::fieldsWidth() const { return layout()->minimumSize().width(); }
+
 int IPLineEdit::getIndex(QLineEdit* field) const
 {
     for (int i = 0; i < 4; ++i)
@@ -223,6 +228,9 @@ void IPLineEdit::updateFieldWidths()
     int const w = fm.horizontalAdvance(QStringLiteral("000")) + 8;
     for (QLineEdit* f : m_fields)
         f->setFixedWidth(w);
+    int const dotWidth = fm.horizontalAdvance(QLatin1Char('.')) + 4;
+    for (QLabel* dot : m_dots)
+        dot->setFixedWidth(dotWidth);
     // The frame is a line edit: its own size hint knows nothing of the fields.
     int const fieldHeight = m_fieldHeight > 0 ? m_fieldHeight : m_fields[0]->sizeHint().height();
     setFixedHeight(fieldHeight + 12);

@@ -52,6 +52,8 @@ public:
     void setFontSize(int size);
     void setHeight(int height);
     void setLineEditProperty(char const* name, QVariant const& value) const;
+    // Width the four fields with their dots and margins need.
+    int fieldsWidth() const;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -61,3 +61,4 @@
 #include "networksettings.h"
 #include "adddevice.h"
 #include "switcherselect.h"
+#include "typeitemtbarcalibration.h"

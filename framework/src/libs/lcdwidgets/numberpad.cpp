@@ -26,6 +26,7 @@ NumberPad::NumberPad(QRect geometry, QWidget* parent)
 
     m_lineEdit = new IPLineEdit(this);
     m_lineEdit->setIpText(DEFAULT_IP_ADDRESS);
+    m_lineEdit->setFontSize(24);
     auto* editorLayout = new QHBoxLayout(ui->lineeditFrame);
     editorLayout->setContentsMargins(0, 0, 0, 0);
     editorLayout->addWidget(m_lineEdit);

@@ -73,7 +73,9 @@ void TypeIpAdjust::setContentFontSize(int size)
         return;
     CommonItemType::setContentFontSize(size);
     d->lineEdit->setFontSize(size);
-    d->lineEdit->setFixedWidth(static_cast<int>(qMin<qint64>(8LL * size, QWIDGETSIZE_MAX)));
+    // 8n, or what three digits per octet need in a wide font.
+    qint64 const width = qMax<qint64>(8LL * size, d->lineEdit->fieldsWidth());
+    d->lineEdit->setFixedWidth(static_cast<int>(qMin<qint64>(width, QWIDGETSIZE_MAX)));
 }
 
 void TypeIpAdjust::setItemHeight(int height)

@@ -31,7 +31,8 @@ public:
     void setLabelValue(QVariant value, int mode = 0) override;
     void editValue() override;
     void setContentDisabled(bool disabled) const override;
-    // Font size n for the address, and the fixed width 8n for the editor.
+    // Font size n for the address, and the fixed width 8n for the editor (wider if the
+    // font's digits need it: four three-digit octets always show whole).
     void setContentFontSize(int size) override;
     void setItemHeight(int height) override;
 
