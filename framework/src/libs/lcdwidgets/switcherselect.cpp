@@ -70,7 +70,6 @@ struct SwitcherItem::Impl
     QLabel* model = nullptr;
     QWidget* separator = nullptr;
     QLabel* dot = nullptr;
-    QLabel* nameLabel = nullptr;
     QLabel* detail = nullptr;
     QLabel* bound = nullptr;
     QPushButton* remove = nullptr;
@@ -105,9 +104,6 @@ void SwitcherItem::createWidget()
     d->dot->setFixedSize(8, 8);
     d->dot->setProperty("style", QStringLiteral("offline"));
     d->dot->setProperty("borderRadius", QStringLiteral("px_4"));
-    d->nameLabel = new QLabel(d->main);
-    d->nameLabel->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
-    d->nameLabel->setProperty("isSwitcherName", true);
     d->detail = new ElidedLabel(d->main);
     d->detail->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     d->detail->setProperty("isSwitcherDetail", true);
@@ -121,7 +117,7 @@ void SwitcherItem::createWidget()
     row->addSpacing(4);
     row->addWidget(d->dot, 0, Qt::AlignLeft | Qt::AlignVCenter);
     row->addSpacing(4);
-    row->addWidget(d->nameLabel);
+    // The name is shown with the address in the detail label.
     row->addWidget(d->detail, 1);
     row->addWidget(d->bound);
     row->addStretch();
@@ -269,6 +265,7 @@ void SwitcherSelect::Impl::createWidget()
     for (int i = 0; i < kMaxSwitchers; ++i) {
         auto* item = new SwitcherItem(container);
         item->hide();
+        // A button moves the focus with the arrow keys itself: the page sees them first.
         item->mainButton()->installEventFilter(page);
         item->deleteButton()->installEventFilter(page);
         QObject::connect(item, &SwitcherItem::signalBind, page, &SwitcherSelect::signalBind);
