@@ -34,7 +34,8 @@ bool usableAddress(IPEdit const* edit, QString const& text)
 }
 } // namespace
 
-struct AddDevice::Impl
+// Internal: hidden although its enclosing class is exported.
+struct __attribute__((visibility("hidden"))) AddDevice::Impl
 {
     AddDevice* page = nullptr;
     QLabel* title = nullptr;

@@ -22,7 +22,8 @@ QString const kDhcp = QStringLiteral("DHCP");
 QString const kNoMac = QStringLiteral("--:--:--:--:--:--");
 } // namespace
 
-struct NetworkSettings::Impl
+// Internal: hidden although its enclosing class is exported.
+struct __attribute__((visibility("hidden"))) NetworkSettings::Impl
 {
     NetworkSettings* page = nullptr;
     FocusComboBox* mode = nullptr;

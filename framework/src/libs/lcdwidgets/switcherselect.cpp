@@ -60,7 +60,8 @@ protected:
 // ---------------------------------------------------------------------------
 // SwitcherItem
 
-struct SwitcherItem::Impl
+// Internal: hidden although its enclosing class is exported.
+struct __attribute__((visibility("hidden"))) SwitcherItem::Impl
 {
     SwitcherInfo info;
     bool online = false;
@@ -182,7 +183,8 @@ QString SwitcherItem::detailText() const { return d->detail->text(); }
 // ---------------------------------------------------------------------------
 // SwitcherSelect
 
-struct SwitcherSelect::Impl
+// Internal: hidden although its enclosing class is exported.
+struct __attribute__((visibility("hidden"))) SwitcherSelect::Impl
 {
     SwitcherSelect* page = nullptr;
     QLabel* title = nullptr;

@@ -11,7 +11,8 @@
 namespace LCD {
 namespace Widget {
 
-struct TypeIpAdjust::Impl
+// Internal: hidden although its enclosing class is exported.
+struct __attribute__((visibility("hidden"))) TypeIpAdjust::Impl
 {
     IPLineEdit* lineEdit = nullptr;
     bool editing = false;

@@ -41,7 +41,8 @@ QString stepText(int step)
 }
 } // namespace
 
-struct TypeItemTBarCalibration::Impl
+// Internal: hidden although its enclosing class is exported.
+struct __attribute__((visibility("hidden"))) TypeItemTBarCalibration::Impl
 {
     QLabel* header = nullptr;
     std::vector<QLabel*> steps;
