@@ -152,6 +152,11 @@ void TestIpEntry::rowStepsWithinOctetLimits()
     Knob::turn(e, 1);
     QCOMPARE(e->field(3)->text(), QStringLiteral("255"));
     QVERIFY(row->isModified());
+    // Every step is logged.
+    QLoggingCategory::setFilterRules(QStringLiteral("default.debug=true"));
+    QTest::ignoreMessage(QtDebugMsg, "m_isEdit true ,index: 3 ,val: 255 ,step: 0 ,newVal: 255");
+    Knob::turn(e, -1, 0.001);
+    QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
 
     // Walk to the first octet (the press switches to walking), then step it down.
     Knob::press(e);

@@ -54,7 +54,25 @@ private slots:
     void applyAndRestoreKeys();
     void knobWalksTheEditors();
     void editSignalsFollowTheEditors();
+    void languageChangeKeepsTheMode();
 };
+
+void TestNetworkSettings::languageChangeKeepsTheMode()
+{
+    Window w;
+    NetworkInfo dhcp = manual();
+    dhcp.mode = 1;
+    w.page->setNetworkInfo(dhcp);
+    QSignalSpy applied(w.page, &NetworkSettings::signalApplyNetwork);
+    w.page->applyButton()->setText(QString());
+    QEvent change(QEvent::LanguageChange);
+    QApplication::sendEvent(w.page, &change);
+    QCOMPARE(w.page->applyButton()->text(), QStringLiteral("Apply"));
+    QCOMPARE(w.page->modeChooser()->itemText(0), QStringLiteral("Manual"));
+    QCOMPARE(w.page->modeChooser()->itemText(1), QStringLiteral("DHCP"));
+    QCOMPARE(w.page->modeChooser()->currentIndex(), 1);
+    QCOMPARE(applied.count(), 0);
+}
 
 void TestNetworkSettings::setNetworkInfoShowsWithoutApplying()
 {
