@@ -106,6 +106,20 @@ ItemPage* buildSwitchersPage(GalleryContext&)
                                        : QObject::tr("Add device closed"));
     });
 
+    // The rows are narrow here: the status line shows the current one in full.
+    QObject::connect(qApp, &QApplication::focusChanged, page, [page, select](QWidget*, QWidget* now) {
+        for (QWidget* w = now; w && w != select; w = w->parentWidget()) {
+            if (auto* item = qobject_cast<SwitcherItem*>(w)) {
+                SwitcherInfo const info = item->switcherInfo();
+                emit page->statusMessage(QObject::tr("%1  %2  %3  SN %4%5")
+                                             .arg(QString::fromStdString(info.model), QString::fromStdString(info.name),
+                                                  QString::fromStdString(info.ip), QString::fromStdString(info.sn),
+                                                  info.online ? QString() : QObject::tr("  (offline)")));
+                return;
+            }
+        }
+    });
+
     page->screenshotSetup = [page, select] {
         QCoreApplication::processEvents();
         page->activate();
