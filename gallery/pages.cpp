@@ -9,5 +9,9 @@ QList<PageInfo> galleryPages()
         {QStringLiteral("lists"), buildListsPage},
         // Instruments
         {QStringLiteral("instruments"), buildInstrumentsPage},
+        // Device pages
+        {QStringLiteral("network"), buildNetworkPage},
+        {QStringLiteral("switchers"), buildSwitchersPage},
+        {QStringLiteral("tbar"), buildTBarPage},
     };
 }

@@ -23,6 +23,10 @@ ItemPage* buildNumbersPage(GalleryContext& context);
 ItemPage* buildListsPage(GalleryContext& context);
 // Instruments: dials and the crop drawing
 ItemPage* buildInstrumentsPage(GalleryContext& context);
+// Device pages
+ItemPage* buildNetworkPage(GalleryContext& context);
+ItemPage* buildSwitchersPage(GalleryContext& context);
+ItemPage* buildTBarPage(GalleryContext& context);
 
 // Sections that other pages include.
 void addBarSection(ItemPage* page, GalleryContext& context);      // bottom and reset/apply bars (Display page)

@@ -29,6 +29,7 @@ int main(int argc, char** argv)
     addBarImages(table);
     addEditorImages(table);
     addListImages(table);
+    addDeviceImages(table);
     for (auto const& [name, image] : table) {
         if (image.frames > 1) {
             if (!writeGif(out.filePath(name), image)) {

@@ -50,5 +50,6 @@ void addDisplayImages(ImageTable& table);   // text and display items
 void addBarImages(ImageTable& table);       // bottom and reset/apply bars, progress
 void addEditorImages(ImageTable& table);    // spin boxes and numeric rows
 void addListImages(ImageTable& table);      // drop-downs and menus
+void addDeviceImages(ImageTable& table);    // number pad and device pages
 
 } // namespace themeimages

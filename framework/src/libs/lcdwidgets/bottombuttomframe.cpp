@@ -41,7 +41,7 @@ int slotOf(Enum::BottomButtonType flag)
 
 } // namespace
 
-struct BottomButtomFrame::Impl
+struct LCDWIDGETS_HIDDEN BottomButtomFrame::Impl
 {
     QPointer<QWidget> storedParent;
     QPushButton* buttons[std::size(kKinds)] = {};

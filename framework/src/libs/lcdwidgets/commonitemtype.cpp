@@ -53,7 +53,7 @@ int titleWidth(int itemWidth, int dynamicWidth, int fontSize)
 
 } // namespace
 
-struct CommonItemType::Impl
+struct LCDWIDGETS_HIDDEN CommonItemType::Impl
 {
     QVBoxLayout* frameLayout = nullptr;
     QHBoxLayout* rowLayout = nullptr;

@@ -7,7 +7,7 @@
 namespace LCD {
 namespace Widget {
 
-struct DashBoardLabel::Impl
+struct LCDWIDGETS_HIDDEN DashBoardLabel::Impl
 {
     QLabel* value = nullptr;
     QLabel* unit = nullptr;

@@ -76,7 +76,7 @@ QString formatNumber(double v, int fraction)
 
 } // namespace
 
-struct DashBoardWidget::Impl
+struct LCDWIDGETS_HIDDEN DashBoardWidget::Impl
 {
     double max = 100.0;
     double min = 0.0;

@@ -67,7 +67,7 @@ void ListWidgetDelegate::paint(QPainter* painter, QStyleOptionViewItem const& op
 // ---------------------------------------------------------------------------
 // DialogMenuWidget
 
-struct DialogMenuWidget::Impl
+struct LCDWIDGETS_HIDDEN DialogMenuWidget::Impl
 {
     int currentIndex = 0;
     int slidWindowCount = 7;

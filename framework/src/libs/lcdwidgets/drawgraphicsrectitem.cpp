@@ -25,7 +25,7 @@ qreal extent(qreal v) { return std::isfinite(v) && v > 0 ? v : 0.0; }
 
 } // namespace
 
-struct DrawGraphicsRectItem::Impl
+struct LCDWIDGETS_HIDDEN DrawGraphicsRectItem::Impl
 {
     QSizeF size = QSizeF(0, 0);
     QString text;

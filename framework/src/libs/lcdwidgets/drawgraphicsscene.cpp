@@ -37,7 +37,7 @@ ItemDataInfo cropRectInside(ItemDataInfo const& crop, ItemDataInfo const& pictur
     return r;
 }
 
-struct DrawGraphicsScene::Impl
+struct LCDWIDGETS_HIDDEN DrawGraphicsScene::Impl
 {
     int contentFontSize = 20;
 };

@@ -9,7 +9,7 @@ namespace Widget {
 
 const QColor DrawGraphicsView::BackgroundColor = QColor(25, 110, 136);
 
-struct DrawGraphicsView::Impl
+struct LCDWIDGETS_HIDDEN DrawGraphicsView::Impl
 {
     DrawGraphicsScene* scene = nullptr;
 };

@@ -166,7 +166,7 @@ void CustomListView::currentChanged(QModelIndex const& current, QModelIndex cons
 // ---------------------------------------------------------------------------
 // DropCombobox
 
-struct DropCombobox::Impl
+struct LCDWIDGETS_HIDDEN DropCombobox::Impl
 {
     int fontSize = -1;
     QRect homeRect; // null: (0, 0, -1, -1)

@@ -64,3 +64,14 @@
 #include "drawgraphicsscene.h"
 #include "drawgraphicsview.h"
 #include "typedrawcropwidget.h"
+// IP address entry and the number pad
+#include "iplineedit.h"
+#include "ipedit.h"
+#include "typeipadjust.h"
+#include "numberpad.h"
+
+// Device pages
+#include "networksettings.h"
+#include "adddevice.h"
+#include "switcherselect.h"
+#include "typeitemtbarcalibration.h"

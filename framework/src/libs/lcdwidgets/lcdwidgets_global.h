@@ -7,3 +7,7 @@
 #else
 #define LCDWIDGETS_EXPORT
 #endif
+
+// The private parts of exported classes (their Impl structs, defined in the sources)
+// stay out of the export table, member functions included.
+#define LCDWIDGETS_HIDDEN __attribute__((visibility("hidden")))

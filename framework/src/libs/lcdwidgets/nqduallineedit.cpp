@@ -18,7 +18,7 @@ namespace {
 constexpr int kFieldCount = 2;
 }
 
-struct NQDualLineEdit::Impl
+struct LCDWIDGETS_HIDDEN NQDualLineEdit::Impl
 {
     QLabel* fields[kFieldCount] = {nullptr, nullptr};
     QLabel* separatorLabel = nullptr;

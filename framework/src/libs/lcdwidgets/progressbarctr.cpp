@@ -36,7 +36,7 @@ QString percentText(int percent) { return QStringLiteral("%1%").arg(percent); }
 
 } // namespace
 
-struct ProgressBarCtr::Impl
+struct LCDWIDGETS_HIDDEN ProgressBarCtr::Impl
 {
     enum class Result { None, Succeed, Failure };
 

@@ -34,7 +34,7 @@ QHBoxLayout* bareRow(QWidget* owner)
 
 // ---- ResetApplyWidget --------------------------------------------------------
 
-struct ResetApplyWidget::Impl
+struct LCDWIDGETS_HIDDEN ResetApplyWidget::Impl
 {
     Enum::ResetApplyButtonType type;
     QPointer<QWidget> keyDelegate; // the constructor's `parent`; guarded, it may go away

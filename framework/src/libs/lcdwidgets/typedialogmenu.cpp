@@ -23,7 +23,7 @@ constexpr char kTextExists[] = "the text has been exist!";
 
 } // namespace
 
-struct TypeDialogMenu::Impl
+struct LCDWIDGETS_HIDDEN TypeDialogMenu::Impl
 {
     TypeDialogMenu* q = nullptr;
     LCD::MainWidgets::IHomeFrame* homeFrame = nullptr;

@@ -9,7 +9,7 @@
 namespace LCD {
 namespace Widget {
 
-struct TypeDrawCropWidget::Impl
+struct LCDWIDGETS_HIDDEN TypeDrawCropWidget::Impl
 {
     DrawGraphicsView* view = nullptr;
 };

@@ -15,7 +15,7 @@ namespace {
 constexpr int kEditorWidth = 70;
 }
 
-struct TypeDualInt::Impl
+struct LCDWIDGETS_HIDDEN TypeDualInt::Impl
 {
     NQDualLineEdit* editor = nullptr;
 };

@@ -15,7 +15,7 @@
 namespace LCD {
 namespace Widget {
 
-struct TypeFloatAdjust::Impl
+struct LCDWIDGETS_HIDDEN TypeFloatAdjust::Impl
 {
     NQDoubleSpinBox* spinBox = nullptr;
     QLabel* valueLabel = nullptr;

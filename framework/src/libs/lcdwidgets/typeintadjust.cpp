@@ -15,7 +15,7 @@
 namespace LCD {
 namespace Widget {
 
-struct TypeIntAdjust::Impl
+struct LCDWIDGETS_HIDDEN TypeIntAdjust::Impl
 {
     NQSpinBox* spinBox = nullptr;
     QLabel* valueLabel = nullptr;

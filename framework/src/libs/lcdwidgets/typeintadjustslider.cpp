@@ -17,7 +17,7 @@ namespace {
 constexpr int kSliderWidth = 550;
 }
 
-struct TypeIntAdjustSlider::Impl
+struct LCDWIDGETS_HIDDEN TypeIntAdjustSlider::Impl
 {
     NQSpinBox* spinBox = nullptr;
     QSlider* slider = nullptr;

@@ -10,7 +10,7 @@
 namespace LCD {
 namespace Widget {
 
-struct TypeItemArrow::Impl
+struct LCDWIDGETS_HIDDEN TypeItemArrow::Impl
 {
     QLabel* tag = nullptr;
     QPushButton* arrow = nullptr;

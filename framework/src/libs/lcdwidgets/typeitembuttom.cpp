@@ -16,7 +16,7 @@ constexpr int kBarHeight = 20;
 constexpr int kMinBarWidth = 80;
 } // namespace
 
-struct TypeItemButtom::Impl
+struct LCDWIDGETS_HIDDEN TypeItemButtom::Impl
 {
     QLabel* icon = nullptr;
     QLabel* value = nullptr;

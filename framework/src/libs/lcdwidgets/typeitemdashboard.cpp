@@ -41,7 +41,7 @@ void placeLabel(Dial const& e)
 
 } // namespace
 
-struct TypeItemDashBoard::Impl
+struct LCDWIDGETS_HIDDEN TypeItemDashBoard::Impl
 {
     QWidget* strip = nullptr;
     QHBoxLayout* stripLayout = nullptr;

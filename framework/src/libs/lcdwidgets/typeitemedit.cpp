@@ -9,7 +9,7 @@
 namespace LCD {
 namespace Widget {
 
-struct TypeItemEdit::Impl
+struct LCDWIDGETS_HIDDEN TypeItemEdit::Impl
 {
     QLineEdit* edit = nullptr;
     QPushButton* button = nullptr;

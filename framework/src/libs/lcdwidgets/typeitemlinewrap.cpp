@@ -16,7 +16,7 @@ constexpr int kColumnSpacing = 2;
 constexpr int kRowPadding = 12;
 } // namespace
 
-struct TypeItemLineWrap::Impl
+struct LCDWIDGETS_HIDDEN TypeItemLineWrap::Impl
 {
     QWidget* column = nullptr;
     QVBoxLayout* columnLayout = nullptr;

@@ -52,7 +52,7 @@ void runMovie(QMovie* movie)
 
 } // namespace
 
-struct TypeItemMore::Impl
+struct LCDWIDGETS_HIDDEN TypeItemMore::Impl
 {
     QPushButton* pgm = nullptr;
     QPushButton* pvw = nullptr;

@@ -35,7 +35,7 @@ void styleLabels(RollLabel* value, RollLabel* title)
 // ---------------------------------------------------------------------------
 // TypeItemText
 
-struct TypeItemText::Impl
+struct LCDWIDGETS_HIDDEN TypeItemText::Impl
 {
     QPushButton* iconButton = nullptr;
     RollLabel* valueLabel = nullptr;
@@ -132,7 +132,7 @@ QPushButton* TypeItemText::iconButton() const { return d->iconButton; }
 // ---------------------------------------------------------------------------
 // TypeItemTextCenter
 
-struct TypeItemTextCenter::Impl
+struct LCDWIDGETS_HIDDEN TypeItemTextCenter::Impl
 {
     RollLabel* valueLabel = nullptr;
     bool fixedValueWidth = false; // setValueLabelSize() wins over the half-row rule

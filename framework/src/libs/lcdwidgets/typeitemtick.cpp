@@ -6,7 +6,7 @@
 namespace LCD {
 namespace Widget {
 
-struct TypeItemTick::Impl
+struct LCDWIDGETS_HIDDEN TypeItemTick::Impl
 {
     QPushButton* tick = nullptr;
 };

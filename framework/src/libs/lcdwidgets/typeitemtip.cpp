@@ -10,7 +10,7 @@
 namespace LCD {
 namespace Widget {
 
-struct TypeItemTip::Impl
+struct LCDWIDGETS_HIDDEN TypeItemTip::Impl
 {
     QPushButton* icon = nullptr;
     QLabel* text = nullptr;

@@ -32,7 +32,7 @@ bool setPicture(QLabel* label, QString const& file, int height)
 // ---------------------------------------------------------------------------
 // TypeItemValue
 
-struct TypeItemValue::Impl
+struct LCDWIDGETS_HIDDEN TypeItemValue::Impl
 {
     int fixedValueWidth = 0;
     QPushButton* iconButton = nullptr;
@@ -178,7 +178,7 @@ RollLabel* TypeItemValue::valueLabel() const { return d->valueLabel; }
 // ---------------------------------------------------------------------------
 // TypeItemValueBorder
 
-struct TypeItemValueBorder::Impl
+struct LCDWIDGETS_HIDDEN TypeItemValueBorder::Impl
 {
     RollLabel* valueLabel = nullptr;
 };

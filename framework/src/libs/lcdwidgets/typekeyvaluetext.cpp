@@ -10,7 +10,7 @@
 namespace LCD {
 namespace Widget {
 
-struct TypeKeyValueText::Impl
+struct LCDWIDGETS_HIDDEN TypeKeyValueText::Impl
 {
     QLabel* valueLabel = nullptr;
     QString key;

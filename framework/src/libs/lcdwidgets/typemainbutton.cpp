@@ -19,7 +19,7 @@ int slotWidth(QPushButton* button)
 
 } // namespace
 
-struct TypeMainButton::Impl
+struct LCDWIDGETS_HIDDEN TypeMainButton::Impl
 {
     int pageWidth = -1; // the width the page gives, before the icons are taken off
 };
@@ -78,7 +78,7 @@ void TypeMainButton::createWidget()
 
 void TypeMainButton::setContentDisabled(bool) const {}
 
-struct TypeItemNull::Impl
+struct LCDWIDGETS_HIDDEN TypeItemNull::Impl
 {
     QVariant userData;
 };

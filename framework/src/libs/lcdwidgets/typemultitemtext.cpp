@@ -14,7 +14,7 @@ namespace Widget {
 // ---------------------------------------------------------------------------
 // TypeMultItemText
 
-struct TypeMultItemText::Impl
+struct LCDWIDGETS_HIDDEN TypeMultItemText::Impl
 {
     QList<RollLabel*> labels;
     QString texts[kLabelCount];
@@ -169,7 +169,7 @@ namespace {
 constexpr char const* kKeyCheckProperties[TypeKeyCheck::kLabelCount] = {"isSelfCheckValueText", "isValueText"};
 }
 
-struct TypeKeyCheck::Impl
+struct LCDWIDGETS_HIDDEN TypeKeyCheck::Impl
 {
     QLabel* labels[kLabelCount] = {};
 };

@@ -16,7 +16,7 @@ namespace {
 constexpr double kBoxWidthShare = 0.4722222222222222;
 } // namespace
 
-struct TypeSpinAdjust::Impl
+struct LCDWIDGETS_HIDDEN TypeSpinAdjust::Impl
 {
     ExtendSpinBox* left = nullptr;
     ExtendSpinBox* right = nullptr;

@@ -26,7 +26,7 @@ void logBadIndex(char const* function, int index, int count)
 
 } // namespace
 
-struct TypeStringCombox::Impl
+struct LCDWIDGETS_HIDDEN TypeStringCombox::Impl
 {
     TypeStringCombox* q = nullptr;
     DropCombobox* combo = nullptr;

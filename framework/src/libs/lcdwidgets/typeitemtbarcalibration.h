@@ -1,0 +1,74 @@
+// Item row that walks the user through calibrating the T-bar: six numbered steps that
+// ask in turn to push the T-bar to the top and to the bottom. The first press of the
+// action button starts a run (signalTBarCalibrationBegin); each further press records
+// the T-bar's position, read through the host's keyboard proxy ("lcdKeyboardEvent");
+// the sixth reading ends the run (signalTBarCalibrationEnd) and the six values are
+// then in getCalibrationValue(). Escape abandons a run (signalTBarCalibrationBack,
+// then signalCloseEditStatus); its readings stay until the next start.
+//
+// Without a proxy the procedure still runs: every reading is -1 (with a warning).
+#pragma once
+
+#include "commonitemtype.h"
+#include "lcdwidgets_global.h"
+
+#include <memory>
+#include <vector>
+
+class QLabel;
+class QPushButton;
+
+namespace LCD {
+class KeyboardProxy;
+
+namespace Widget {
+
+class LCDWIDGETS_EXPORT TypeItemTBarCalibration : public CommonItemType
+{
+    Q_OBJECT
+public:
+    explicit TypeItemTBarCalibration(QWidget* parent = nullptr);
+    ~TypeItemTBarCalibration() override;
+
+    // Lines the row takes: the header, six steps and the button.
+    int getWidgetRow() override;
+    // The action button takes the knob.
+    void editValue() override;
+    void setContentDisabled(bool disabled) const override;
+    // Font sizes of the labels and the button (ignored below 1).
+    void setContentFontSize(int size) override;
+    void retranslateUi();
+
+    // The T-bar's position now (-1 without a proxy).
+    int getTBarValue();
+    std::vector<int> getCalibrationValue();
+    // 0 idle, 1..6 the step whose reading comes next.
+    int currentStep() const;
+    QPushButton* actionButton() const;
+    QLabel* stepLabel(int step) const; // 1..6, null otherwise
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+signals:
+    void signalTBarCalibrationBegin();
+    void signalTBarCalibrationEnd();
+    void signalTBarCalibrationBack();
+
+public slots:
+    void slotBtnClicked();
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    void createWidget();
+    void initCalibration();
+    void refreshLabelProperty();
+    void finishRun();
+
+    struct Impl;
+    std::unique_ptr<Impl> d;
+};
+
+} // namespace Widget
+} // namespace LCD
