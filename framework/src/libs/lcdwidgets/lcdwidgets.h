@@ -50,3 +50,12 @@
 #include "typedualint.h"
 #include "extendspinbox.h"
 #include "typespinadjust.h"
+
+// Choice controls: switches, grouped buttons, check boxes and switches, their rows,
+// and the effect chooser
+#include "switchcontrol.h"
+#include "multiwidgetcontrol.h"
+#include "multibtncontrol.h"
+#include "multicheckboxcontrol.h"
+#include "multiswitchwidget.h"
+#include "typeitemswitch.h"
