@@ -46,9 +46,16 @@ void MultiWidgetControl::addStretch() { d->layout->addStretch(); }
 
 void MultiWidgetControl::addWidgets(MultiWidgetList widgets)
 {
-    for (auto const& pair : qAsConst(widgets))
-        if (pair.second)
-            d->layout->addWidget(pair.second);
+    for (auto const& pair : qAsConst(widgets)) {
+        QWidget* w = pair.second;
+        if (!w)
+            continue;
+        d->layout->addWidget(w);
+        // In a row already on screen a new child shows at once (not on a later turn of
+        // the event loop), so that the knob can focus it straight away.
+        if (isVisible() && !w->testAttribute(Qt::WA_WState_ExplicitShowHide))
+            w->show();
+    }
 }
 
 MultiWidgetList MultiWidgetControl::widgetList() const { return d->widgets; }
