@@ -59,3 +59,6 @@
 #include "multicheckboxcontrol.h"
 #include "multiswitchwidget.h"
 #include "typeitemswitch.h"
+#include "multibtnwidget.h"
+#include "multipleselectbtn.h"
+#include "multibuttoncontrol.h"
