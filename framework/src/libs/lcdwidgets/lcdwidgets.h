@@ -62,3 +62,7 @@
 #include "multibtnwidget.h"
 #include "multipleselectbtn.h"
 #include "multibuttoncontrol.h"
+#include "typeitemmultibtn.h"
+#include "typeitemmulticheckbox.h"
+#include "typeitemmultioperbtn.h"
+#include "typemultipleselectbtn.h"
