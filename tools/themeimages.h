@@ -49,5 +49,6 @@ void addFoundationImages(ImageTable& table);
 void addDisplayImages(ImageTable& table);   // text and display items
 void addBarImages(ImageTable& table);       // bottom and reset/apply bars, progress
 void addEditorImages(ImageTable& table);    // spin boxes and numeric rows
+void addChoiceImages(ImageTable& table);    // choice controls: effect pictures and previews
 
 } // namespace themeimages

@@ -66,3 +66,4 @@
 #include "typeitemmulticheckbox.h"
 #include "typeitemmultioperbtn.h"
 #include "typemultipleselectbtn.h"
+#include "effectpicturewidget.h"
