@@ -165,11 +165,15 @@ private slots:
         QCOMPARE(row.button(0)->toolButtonStyle(), Qt::ToolButtonTextBesideIcon);
         QCOMPARE(row.layout()->spacing(), 12);
         QVERIFY(row.styleSheet().startsWith(QStringLiteral("QToolButton{background-color: rgba(255,255,255,20);")));
-        row.setBtnSize(48);
-        QCOMPARE(row.button(1)->styleSheet(),
+        MultipleSelectBtn square(0, inputs()); // text under the icon: square buttons
+        square.setBtnSize(48);
+        QCOMPARE(square.button(1)->styleSheet(),
                  QStringLiteral("QToolButton {    background-color: transparent;    font-size: 38px;    color: "
                                 "rgba(0,140,242,1);    min-height: 64px;    max-height: 64px;    min-width: 64px;    "
                                 "max-width: 64px;}QToolButton:focus {    border: 3px solid rgb(255,255,255);}"));
+        row.setBtnSize(48); // text beside the icon: as wide as the text needs
+        QVERIFY(row.button(1)->styleSheet().contains(QStringLiteral("min-height: 64px;")));
+        QVERIFY(!row.button(1)->styleSheet().contains(QStringLiteral("min-width: 64px;")));
         QString const sized = row.button(1)->styleSheet();
         QTest::ignoreMessage(QtDebugMsg, "Invalid button size: 0");
         row.setBtnSize(0);

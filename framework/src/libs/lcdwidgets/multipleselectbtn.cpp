@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QDebug>
+#include <QFontMetrics>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QPointer>
@@ -101,15 +102,27 @@ void MultipleSelectBtn::setBtnSize(int n)
         return;
     }
     int const side = (n / 3) * 4;
-    QString const sheet = kSizedSheet.arg(static_cast<int>(0.8 * n))
-                              .arg(QStringLiteral("rgba(0,140,242,1)"))
-                              .arg(side)
-                              .arg(side)
-                              .arg(side)
-                              .arg(side)
-                              .arg(n / 16);
-    for (QToolButton* b : qAsConst(d->buttons))
-        b->setStyleSheet(sheet);
+    int const fontPx = static_cast<int>(0.8 * n);
+    QFont f = font();
+    if (fontPx > 0)
+        f.setPixelSize(fontPx);
+    QFontMetrics const fm(f);
+    for (QToolButton* b : qAsConst(d->buttons)) {
+        // Square buttons for an icon (with or without its text under it); buttons that
+        // show their text beside the icon, or alone, are as wide as the text needs.
+        qint64 width = side;
+        Qt::ToolButtonStyle const style = b->toolButtonStyle();
+        if (style == Qt::ToolButtonTextBesideIcon || style == Qt::ToolButtonTextOnly)
+            width = qMax<qint64>(side, (style == Qt::ToolButtonTextOnly ? 0 : side) + fm.horizontalAdvance(b->text()) + n / 2);
+        width = qMin<qint64>(width, QWIDGETSIZE_MAX);
+        b->setStyleSheet(kSizedSheet.arg(fontPx)
+                             .arg(QStringLiteral("rgba(0,140,242,1)"))
+                             .arg(side)
+                             .arg(side)
+                             .arg(width)
+                             .arg(width)
+                             .arg(n / 16));
+    }
 }
 
 int MultipleSelectBtn::getIndex(QToolButton* button) const { return d->buttons.indexOf(button); }

@@ -49,8 +49,9 @@ public:
 
     // The text of one button; a bad index is refused.
     void setBtnText(int index, QString text);
-    // Sizes the buttons for n: font 0.8 n, side (n / 3) * 4, focus frame n / 16. n < 1
-    // is refused ("Invalid button size:").
+    // Sizes the buttons for n: font 0.8 n, height (n / 3) * 4, focus frame n / 16; icon
+    // buttons are square, buttons showing their text beside the icon (or alone) as wide
+    // as the text needs. n < 1 is refused ("Invalid button size:").
     void setBtnSize(int n);
     // Position of `button`; -1 when it is not one of this row's.
     int getIndex(QToolButton* button) const;

@@ -30,7 +30,7 @@ struct SwitchControl::Impl
     int width = -1;
     bool checked = false;
     bool customChecked = false;
-    QColor background{QStringLiteral("#29FFFFFF")};
+    QColor background{255, 255, 255, 0x29}; // #29FFFFFF
     QColor checkedColor{kDefaultChecked};
     QColor disabledColor{kDefaultDisabled};
     QColor customCheckedColor{Qt::green};
