@@ -257,6 +257,8 @@ private slots:
         QCOMPARE(value.size(), 3);
         QCOMPARE(finished.size(), 2);
 
+        c->updateBtnStyle(nullptr); // no such button: nothing
+        QCOMPARE(c->getCurrentData(), 50);
         QVector<QPair<QString, int>> none;
         c->setBtnText(none);
         QCOMPARE(c->getCurrentData(), -1);
