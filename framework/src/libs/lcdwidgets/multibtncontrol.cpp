@@ -445,6 +445,9 @@ void MultiBtnControl::setContentFontSize(int size)
         QWidget* button = pair.second;
         button->setFixedHeight(height);
         QString const& sheet = pair.first == e_PushButton ? pushSheet : toolSheet;
+        // An icon-only button's icon fills two thirds of its height.
+        if (auto* tool = qobject_cast<QAbstractButton*>(button); tool && pair.first == e_ToolButton)
+            tool->setIconSize(QSize(height * 2 / 3, height * 2 / 3));
         if (button->styleSheet() != sheet)
             button->setStyleSheet(sheet);
         button->adjustSize();

@@ -112,8 +112,13 @@ void MultipleSelectBtn::setBtnSize(int n)
         // show their text beside the icon, or alone, are as wide as the text needs.
         qint64 width = side;
         Qt::ToolButtonStyle const style = b->toolButtonStyle();
-        if (style == Qt::ToolButtonTextBesideIcon || style == Qt::ToolButtonTextOnly)
-            width = qMax<qint64>(side, (style == Qt::ToolButtonTextOnly ? 0 : side) + fm.horizontalAdvance(b->text()) + n / 2);
+        if (style == Qt::ToolButtonTextBesideIcon || style == Qt::ToolButtonTextOnly) {
+            qint64 const icon = style == Qt::ToolButtonTextOnly ? 0 : qint64(fontPx) + n / 4;
+            width = qMax<qint64>(side, icon + fm.horizontalAdvance(b->text()) + n / 2);
+        }
+        // The icon as tall as the text.
+        if (fontPx > 0)
+            b->setIconSize(QSize(fontPx, fontPx));
         width = qMin<qint64>(width, QWIDGETSIZE_MAX);
         b->setStyleSheet(kSizedSheet.arg(fontPx)
                              .arg(QStringLiteral("rgba(0,140,242,1)"))
