@@ -100,9 +100,28 @@ private slots:
         QVERIFY(s->isSliding());
         QTRY_VERIFY_WITH_TIMEOUT(!s->isSliding(), 2000); // off: back at the left end, painted meanwhile
 
+        // End states: the thumb sits at the right end when on, at the left end when off
+        // (seen against a black background).
+        QPalette black = s->palette();
+        black.setColor(QPalette::Window, Qt::black);
+        s->setPalette(black);
+        s->setAutoFillBackground(true);
+        auto isThumb = [s](int x) {
+            QColor const c = s->grab().toImage().pixelColor(x, 15);
+            return c.red() > 230 && c.green() > 230 && c.blue() > 230;
+        };
+        QVERIFY(isThumb(14));
+        QVERIFY(!isThumb(47));
+        click(s);
+        QTRY_VERIFY_WITH_TIMEOUT(!s->isSliding(), 2000);
+        QVERIFY(isThumb(47));
+        QVERIFY(!isThumb(14));
+        click(s);
+        QTRY_VERIFY_WITH_TIMEOUT(!s->isSliding(), 2000);
+
         // Other buttons neither press nor toggle.
         click(s, Qt::RightButton);
-        QCOMPARE(toggled.size(), 2);
+        QCOMPARE(toggled.size(), 4);
         QVERIFY(!s->isSliding());
     }
 
@@ -271,6 +290,27 @@ private slots:
         Knob::back(item);
         QCOMPARE(closed.size(), 1);
         QCOMPARE(QApplication::focusWidget(), host.get());
+    }
+
+    void loneSwitchTakesNoKeys()
+    {
+        auto host = activeHost();
+        auto* w = new MultiSwitchWidget(host.get());
+        w->setTextData({{"Solo", 1}});
+        w->show();
+        QSignalSpy value(w, &MultiSwitchWidget::signalValueChanged);
+        QSignalSpy closed(w, &MultiSwitchWidget::signalCloseEditStatus);
+        w->setFocus();
+        QWidget* lone = w->widgetList().at(0).second;
+        QCOMPARE(QApplication::focusWidget(), lone);
+        for (int key : {Qt::Key_Up, Qt::Key_Down, Qt::Key_Enter, Qt::Key_Escape}) {
+            QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
+            QVERIFY(!w->eventFilter(lone, &press)); // the filter leaves every key alone
+        }
+        Knob::key(lone, Qt::Key_Enter);
+        Knob::back(lone);
+        QCOMPARE(value.size(), 0);
+        QCOMPARE(closed.size(), 0);
     }
 
     void multiSwitchSettersAndBadInput()
