@@ -13,5 +13,6 @@ QList<PageInfo> galleryPages()
         {QStringLiteral("network"), buildNetworkPage},
         {QStringLiteral("switchers"), buildSwitchersPage},
         {QStringLiteral("tbar"), buildTBarPage},
+        {QStringLiteral("choices"), buildChoicesPage},
     };
 }

@@ -27,6 +27,7 @@ ItemPage* buildInstrumentsPage(GalleryContext& context);
 ItemPage* buildNetworkPage(GalleryContext& context);
 ItemPage* buildSwitchersPage(GalleryContext& context);
 ItemPage* buildTBarPage(GalleryContext& context);
+ItemPage* buildChoicesPage(GalleryContext& context); // switches, button rows, effect chooser
 
 // Sections that other pages include.
 void addBarSection(ItemPage* page, GalleryContext& context);      // bottom and reset/apply bars (Display page)

@@ -30,6 +30,7 @@ int main(int argc, char** argv)
     addEditorImages(table);
     addListImages(table);
     addDeviceImages(table);
+    addChoiceImages(table);
     for (auto const& [name, image] : table) {
         if (image.frames > 1) {
             if (!writeGif(out.filePath(name), image)) {

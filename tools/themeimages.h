@@ -51,5 +51,6 @@ void addBarImages(ImageTable& table);       // bottom and reset/apply bars, prog
 void addEditorImages(ImageTable& table);    // spin boxes and numeric rows
 void addListImages(ImageTable& table);      // drop-downs and menus
 void addDeviceImages(ImageTable& table);    // number pad and device pages
+void addChoiceImages(ImageTable& table);    // choice controls: effect pictures and previews
 
 } // namespace themeimages

@@ -1,0 +1,52 @@
+// A row of check boxes: any number of choices. Up/Down move the focus, Enter flips the
+// focused box (Return does not), Escape ends the edit with signalCloseEditStatus().
+// Every flip by the user emits signalValueChanged(value, checked); the setters don't.
+#pragma once
+
+#include "multiwidgetcontrol.h"
+
+#include <QSize>
+#include <QVector>
+#include <utility>
+
+namespace LCD {
+namespace Widget {
+
+class LCDWIDGETS_EXPORT MultiCheckBoxControl : public MultiWidgetControl
+{
+    Q_OBJECT
+public:
+    explicit MultiCheckBoxControl(QWidget* parent = nullptr);
+    ~MultiCheckBoxControl() override;
+
+    // One check box a pair (text, value), appended to those already there.
+    void setCheckBoxData(QVector<std::pair<QString, int>> data);
+    // Every box with that value, silently: checked or not, or partially checked.
+    void setCheckStatus(int value, bool checked, bool partial) const;
+    // The check state (Qt::CheckState as int) of the first box with that value; -1 if none.
+    int getCheckStatus(int value) const;
+    // Checks exactly the boxes whose values are listed (silently) and keeps the list.
+    void setCurrentData(QVector<int> values);
+    QVector<int> getCurrentData() const;
+    void setIconSize(QSize size) const;
+    // Text and indicator size; sizes below 1 are refused.
+    void setFontSize(int size);
+    void setContentDisabled(bool disabled) const;
+    // The focused box flips.
+    void enterPressed() const;
+
+signals:
+    void signalValueChanged(int value, bool checked);
+    void signalCloseEditStatus();
+
+protected:
+    void focusInEvent(QFocusEvent* event) override;
+    bool filterKey(int key) override;
+
+private:
+    struct Impl;
+    std::unique_ptr<Impl> d;
+};
+
+} // namespace Widget
+} // namespace LCD

@@ -1,0 +1,82 @@
+// A row that chooses one of several buttons (a MultiBtnControl on the right), with the
+// list interface of the string choice rows mapped onto the buttons.
+//
+// The knob's press on the row (editValue()) hands the focus to the buttons, which show
+// the present choice as focused; Up/Down walk them, the press chooses: the row emits
+// signalMultiBtnValueChanged(value), signalCurrentTextChanged(), signalCurrentIndexChanged(),
+// signalCloseEditStatus() and signalEditFinished(), in this order, and the page gets the
+// focus back. Escape leaves the choice as it was. The current-setters never emit.
+//
+// The buttons have no item texts of their own apart from what they show: findText()
+// always answers 0 and itemText() an empty string; setItemText() and setItemData() do
+// nothing. currentIndex() answers 0 when no button is current.
+#pragma once
+
+#include "stringcomboxbasetype.h"
+
+#include <QIcon>
+#include <QPointF>
+#include <QVector>
+
+namespace LCD {
+namespace Widget {
+
+class MultiBtnControl;
+
+class LCDWIDGETS_EXPORT TypeItemMultiBtn : public StringComboxBaseType
+{
+    Q_OBJECT
+public:
+    explicit TypeItemMultiBtn(QWidget* parent = nullptr);
+    ~TypeItemMultiBtn() override;
+
+    // --- The list interface ---
+    void addItem(QString const& text, QVariant const& userData = QVariant()) override;
+    void addItem(QIcon const& icon, QString const& text, QVariant const& userData = QVariant());
+    void addItem(QIcon const& icon, QPointF iconPos, QString const& text, QVariant const& userData = QVariant());
+    void insertItem(int index, QString const& text, QVariant const& userData = QVariant()) override;
+    void insertItem(int index, QIcon const& icon, QString const& text, QVariant const& userData = QVariant());
+    void removeItem(int index) override;
+    void clear() override;
+    int count() const override;
+    int currentIndex() const override;
+    void setCurrentIndex(int index) override;
+    QString currentText() const override;
+    void setCurrentText(QString text) override;
+    QVariant currentData(int role = Qt::UserRole) const override;
+    void setCurrentData(int value);
+    void setCurrentUserData(QVariant data) override;
+    int findData(QVariant const& data, int role = Qt::UserRole) const override;
+    QVariant itemData(int index, int role = Qt::UserRole) const override;
+    void updateItems(std::list<std::pair<int, QString>>& items) override;
+    int findText(QString const& text) const override;
+    QString itemText(int index) const override;
+    void setItemText(int index, QString const& text) override;
+    void setItemData(int index, QVariant value, int role = Qt::UserRole) override;
+
+    // --- Buttons ---
+    // One text button a pair (text, value).
+    void setBtnText(QVector<QPair<QString, int>> const& data);
+    // One icon-only button a row (icon, (text, value)).
+    void setBtnIcon(QVector<QPair<QIcon, QPair<QString, int>>> const& data);
+    void setBtnVisible(int value, bool visible);
+
+    void setContentDisabled(bool disabled) const override;
+    void setContentFontSize(int size) override;
+    void editValue() override;
+
+    MultiBtnControl* multiBtnControl() const;
+
+signals:
+    void signalMultiBtnValueChanged(QVariant value);
+
+private:
+    void createWidget();
+    void createConnects();
+
+    struct Impl;
+    std::unique_ptr<Impl> d;
+};
+
+} // namespace Widget
+} // namespace LCD
