@@ -46,3 +46,13 @@
 #include "typedualint.h"
 #include "extendspinbox.h"
 #include "typespinadjust.h"
+
+// Dialogs
+#include "reminderdialog.h"
+#include "minireminderdialog.h"
+#include "remindertoastdialog.h"
+#include "toastdialog.h"
+#include "tipdialog.h"
+#include "waitingdialog.h"
+#include "blockdialog.h"
+#include "customreminderdialog.h"
