@@ -107,6 +107,10 @@ int GalleryWindow::renderScreenshots(QString const& dir)
         if (grab().save(file))
             ++written;
         setFixedSize(kWidth, kHeight);
+        if (p->extraScreenshots) {
+            QApplication::processEvents();
+            p->extraScreenshots(dir, QStringLiteral("%1").arg(i + 1, 2, 10, QLatin1Char('0')));
+        }
     }
     return written;
 }

@@ -53,6 +53,9 @@ public:
 
     // Called before the page's screenshot; puts it into a telling state.
     std::function<void()> screenshotSetup;
+    // Called after the page's screenshot to render more pictures (open dialogs) to
+    // DIR/PREFIX-*.png; returns how many were written.
+    std::function<int(QString const& dir, QString const& prefix)> extraScreenshots;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 

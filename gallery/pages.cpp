@@ -6,5 +6,6 @@ QList<PageInfo> galleryPages()
         {QStringLiteral("items"), buildItemsPage},
         {QStringLiteral("display"), buildDisplayPage},
         {QStringLiteral("numbers"), buildNumbersPage},
+        {QStringLiteral("dialogs"), buildDialogsPage},
     };
 }

@@ -20,6 +20,7 @@ QList<PageInfo> galleryPages();
 ItemPage* buildItemsPage(GalleryContext& context);
 ItemPage* buildDisplayPage(GalleryContext& context);
 ItemPage* buildNumbersPage(GalleryContext& context);
+ItemPage* buildDialogsPage(GalleryContext& context); // dialogs (page_dialogs.cpp)
 
 // Sections that other pages include.
 void addBarSection(ItemPage* page, GalleryContext& context);      // bottom and reset/apply bars (Display page)

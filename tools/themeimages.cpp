@@ -28,6 +28,7 @@ int main(int argc, char** argv)
     addDisplayImages(table);
     addBarImages(table);
     addEditorImages(table);
+    addDialogImages(table);
     for (auto const& [name, image] : table) {
         if (image.frames > 1) {
             if (!writeGif(out.filePath(name), image)) {

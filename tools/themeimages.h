@@ -49,5 +49,6 @@ void addFoundationImages(ImageTable& table);
 void addDisplayImages(ImageTable& table);   // text and display items
 void addBarImages(ImageTable& table);       // bottom and reset/apply bars, progress
 void addEditorImages(ImageTable& table);    // spin boxes and numeric rows
+void addDialogImages(ImageTable& table);    // reminder, toast, tile and loading images
 
 } // namespace themeimages

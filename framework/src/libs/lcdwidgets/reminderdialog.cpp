@@ -10,11 +10,13 @@
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QLayout>
 #include <QLabel>
 #include <QPixmap>
 #include <QPointer>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QSpacerItem>
 #include <QTextEdit>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -90,6 +92,7 @@ struct ReminderDialog::Impl
     std::atomic<int> executing{0};
     QFrame* frame = nullptr;
     bool textFocusedOnce = false;
+    int unused = 2000;
     QTimer* closeTimer = nullptr;
     QRect rect;
     float fontSize = 0;
@@ -189,7 +192,8 @@ void ReminderDialog::createWidget()
     d->frameLayout->addSpacing(H / 40);
     d->frameLayout->addLayout(d->textRow);
     d->frameLayout->addLayout(d->progressRow);
-    d->frameLayout->addSpacing(qMax(0, W / 5 - margin));
+    // The wide gap above the line gives way first when the text needs the room.
+    d->frameLayout->addSpacerItem(new QSpacerItem(0, qMax(0, W / 5 - margin), QSizePolicy::Minimum, QSizePolicy::Maximum));
     d->frameLayout->addWidget(d->lineLabel);
     d->frameLayout->addSpacing(int(margin * 0.4));
     d->frameLayout->addLayout(d->buttonRow);
@@ -482,6 +486,11 @@ void ReminderDialog::showEvent(QShowEvent* event)
     d->buttons->setFontPixels(N);
     d->iconLabel->setFixedSize(2 * N, 2 * N);
     d->progressBar->setFontSize(N);
+    // The bar's own height rule (2.5 × the font) leaves its bar row no room at the
+    // dialogs' font sizes: give it what its layout needs.
+    if (QLayout* layout = d->progressBar->layout())
+        d->progressBar->setFixedHeight(qMax(d->progressBar->height(), layout->minimumSize().height()));
+    fitTextHeight();
     // "border-radius;" as the host's theme expects it.
     QString const radius = QString::number(N * 8 / 14);
     setStyleSheet(QStringLiteral("QDialog{border-radius;") + radius + QStringLiteral("px;}"));
@@ -489,6 +498,27 @@ void ReminderDialog::showEvent(QShowEvent* event)
     if (!d->buttons->anyVisible())
         setFocus(Qt::OtherFocusReason);
     QDialog::showEvent(event);
+}
+
+void ReminderDialog::fitTextHeight()
+{
+    // The text view is at most 4/5 of the dialog's height; it takes what the icon,
+    // the progress bar, the line and the buttons leave of the frame.
+    int const N = DialogUtil::fontPixels(d->fontSize);
+    int const H = d->rect.height();
+    int const margin = H / 20;
+    QMargins const m = d->frameLayout->contentsMargins();
+    qint64 used = qint64(m.top()) + m.bottom() + H / 40 + int(margin * 0.4);
+    if (!d->iconLabel->isHidden())
+        used += 2 * N;
+    if (!d->progressBar->isHidden())
+        used += d->progressBar->height();
+    if (!d->lineLabel->isHidden())
+        used += d->lineLabel->height();
+    if (!d->buttons->box()->isHidden() && !d->buttons->box()->buttons().isEmpty())
+        used += N + N * 10 / 14;
+    int const room = int(qBound<qint64>(0, qint64(d->height) - used, QWIDGETSIZE_MAX));
+    d->textView->setFixedHeight(qMin(room, d->height * 4 / 5));
 }
 
 void ReminderDialog::changeEvent(QEvent* event)
@@ -518,9 +548,11 @@ ReminderDialogApply::ReminderDialogApply(QWidget* parent) : QDialog(parent), d(n
     setProperty("isReminderDialogBg", true);
 
     d->frame = new QFrame(this);
+    d->frame->setObjectName(QStringLiteral("reminderApplyFrame"));
     d->frame->setFixedSize(544, 288);
     d->frame->setProperty("isReminderFrameBg", true);
     d->frame->setWindowOpacity(1.0);
+    auto gap = [](int height) { return new QSpacerItem(0, height, QSizePolicy::Minimum, QSizePolicy::Maximum); };
     auto* outer = new QHBoxLayout(this);
     outer->setContentsMargins(0, 0, 0, 0);
     outer->addWidget(d->frame, 0, Qt::AlignCenter);
@@ -543,11 +575,12 @@ ReminderDialogApply::ReminderDialogApply(QWidget* parent) : QDialog(parent), d(n
     };
     auto* layout = new QVBoxLayout(d->frame);
     layout->setSpacing(0);
-    layout->addSpacing(50);
+    // The gaps give way where the frame is too small for all of them.
+    layout->addSpacerItem(gap(50));
     layout->addLayout(row(d->icon));
-    layout->addSpacing(80);
+    layout->addSpacerItem(gap(80));
     layout->addLayout(row(d->text));
-    layout->addSpacing(164);
+    layout->addSpacerItem(gap(164));
     layout->addLayout(row(d->apply));
     layout->addStretch();
 

@@ -137,6 +137,7 @@ private:
     void createWidget();
     void createConnects();
     bool swallowsBack(QKeyEvent* event) const;
+    void fitTextHeight();
 
     struct Impl;
     std::unique_ptr<Impl> d;

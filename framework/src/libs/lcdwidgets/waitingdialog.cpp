@@ -48,6 +48,9 @@ struct WaitingDialog::Impl
     int W() const { return rect.width(); }
     int H() const { return rect.height(); }
     QSize waitingSize() const { return QSize(DialogUtil::part(W(), 5, 8), DialogUtil::part(H(), 1, 2)); }
+    // With the function button the body frame is 3·H/5 tall; the dialog takes the
+    // same height so that the frame is not cut off.
+    QSize detailedSize() const { return QSize(DialogUtil::part(W(), 11, 16), DialogUtil::part(H(), 3, 5)); }
 
     void colour(TooltipLevel level)
     {
@@ -115,6 +118,7 @@ WaitingDialog::WaitingDialog(QRect rect, QWidget* parent, Qt::WindowFlags flags)
     d->text->setAlignment(Qt::AlignCenter);
     d->text->setWordWrap(true);
     d->text->setFixedWidth(size.width() * 4 / 5);
+    d->colour(White);
 
     d->funFrame = new QFrame(d->frame);
     d->funFrame->setProperty("isCanelFrame", true);
@@ -174,8 +178,7 @@ void WaitingDialog::showWaitingDialog(QString const& text, QRect rect, TooltipLe
         qWarning().noquote() << kWho << "showWaitingDialog: host rectangle is empty, keeping" << d->rect;
     d->fontSize = DialogUtil::fontSize(d->rect);
     int const W = d->W();
-    QSize const size = d->funVisible ? QSize(DialogUtil::part(W, 11, 16), DialogUtil::part(d->H(), 1, 2))
-                                     : d->waitingSize();
+    QSize const size = d->funVisible ? d->detailedSize() : d->waitingSize();
     setFixedSize(size);
     recentre();
     d->frame->setFixedSize(d->funVisible ? QSize(size.width(), DialogUtil::part(d->H(), 3, 5)) : size);
@@ -258,7 +261,7 @@ void WaitingDialog::setFunButtonVisible(bool visible)
         d->funButton->setEnabled(true);
         d->funButton->setFocus(Qt::OtherFocusReason);
         d->funButton->setProperty("isIconReset", true);
-        setFixedSize(DialogUtil::part(W, 11, 16), DialogUtil::part(H, 1, 2));
+        setFixedSize(d->detailedSize());
         setStyleProperty(d->text, "isLockPanelText", "detail");
         d->frame->setProperty("isReminderFrameBg", true);
         d->frame->setProperty("isWaitingDialogFrameBg", false);
