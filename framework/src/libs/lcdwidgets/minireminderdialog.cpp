@@ -64,8 +64,9 @@ MiniProcessDialog::MiniProcessDialog(DialogType type, QRect rect, QWidget* paren
     setAttribute(Qt::WA_TranslucentBackground);
     setProperty("isReminderDialogBg", true);
 
+    // The box and the icon are not part of the band: the box stays where the
+    // dialog puts it (its buttons still take the knob), the icon is not shown.
     d->buttons = std::make_unique<ReminderButtons>(this, d->rect.width(), d->fontSize);
-    d->buttons->box()->hide();
     d->iconLabel = new QLabel(this);
     d->iconLabel->hide();
 
