@@ -43,6 +43,17 @@ QString roleName(int role)
     }
 }
 
+// The host hides the waiting panel; the knob then returns to the row that showed it.
+void returnWhenHidden(WaitingDialog* w, QWidget* row)
+{
+    auto connection = std::make_shared<QMetaObject::Connection>();
+    *connection = QObject::connect(w, &WaitingDialog::hideDialog, row, [row, connection] {
+        QObject::disconnect(*connection);
+        row->window()->activateWindow();
+        row->setFocus(Qt::OtherFocusReason);
+    });
+}
+
 QString const kLongText = QStringLiteral(
     "The firmware update replaces the control software, the video engine and the panel's own program. "
     "The program output stays black while the engine restarts, the multiview shows the update progress, "
@@ -90,8 +101,13 @@ public:
             return;
         m_value->setText(result);
         emit m_page->statusMessage(QObject::tr("%1: %2").arg(m_kind.title, result));
-        if (isVisible())
+        // Back to the page: the window takes the keys again (a window manager
+        // would do it; the offscreen platform does not).
+        if (isVisible()) {
+            if (!window()->isActiveWindow() && !QApplication::activeModalWidget())
+                window()->activateWindow();
             setFocus(Qt::OtherFocusReason);
+        }
     }
 
 protected:
@@ -299,7 +315,11 @@ QList<DialogKind> noticeKinds()
     waiting.open = [](QWidget* row) {
         WaitingDialog* w = WaitingDialog::instance(hostArea(row), row->window());
         w->showWaitingDialog(QObject::tr("Connecting to the switcher..."), hostArea(row));
-        QTimer::singleShot(3000, w, [w] { w->hideWaitingDialog(); });
+        returnWhenHidden(w, row);
+        QTimer::singleShot(3000, w, [w] {
+            if (w->isVisible())
+                w->hideWaitingDialog();
+        });
         return QObject::tr("shown");
     };
     waiting.picture = [](QWidget* window) -> QWidget* {
@@ -320,8 +340,11 @@ QList<DialogKind> noticeKinds()
     };
     cancelable.open = [showCancelable](QWidget* row) {
         WaitingDialog* w = showCancelable(row);
-        QObject::connect(w, &WaitingDialog::signalFunButtonClicked, w, [w](int) { w->hideWaitingDialog(); },
-                         Qt::UniqueConnection);
+        returnWhenHidden(w, row);
+        if (!w->property("galleryCancelWired").toBool()) {
+            w->setProperty("galleryCancelWired", true);
+            QObject::connect(w, &WaitingDialog::signalFunButtonClicked, w, [w](int) { w->hideWaitingDialog(); });
+        }
         QTimer::singleShot(6000, w, [w] {
             if (w->isVisible())
                 w->hideWaitingDialog();
@@ -400,9 +423,34 @@ QImage composite(QWidget* window, QWidget* dialog)
 
 } // namespace
 
+// The press reaches the page's list while the list holds the knob (after the page
+// is shown): it opens the current row's dialog too.
+class PressToRow : public QObject
+{
+public:
+    PressToRow(ItemPage* page, QList<DialogRow*> rows) : QObject(page), m_page(page), m_rows(std::move(rows)) {}
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::KeyPress && watched == m_page->list()) {
+            int const key = static_cast<QKeyEvent*>(event)->key();
+            if ((key == Qt::Key_Return || key == Qt::Key_Enter) && m_page->currentIndex() >= 0 &&
+                m_page->currentIndex() < m_rows.size()) {
+                m_rows.at(m_page->currentIndex())->open();
+                return true;
+            }
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    ItemPage* m_page;
+    QList<DialogRow*> m_rows;
+};
+
 ItemPage* buildDialogsPage(GalleryContext&)
 {
     auto* page = new ItemPage(QObject::tr("Dialogs"));
+    QList<DialogRow*> rows;
     page->addSection(QObject::tr("Message boxes (Up/Down walk the buttons, Enter presses, Esc leaves)"));
     QList<DialogKind> const& kinds = allKinds();
     for (int i = 0; i < kinds.size(); ++i) {
@@ -410,8 +458,10 @@ ItemPage* buildDialogsPage(GalleryContext&)
             page->addSection(QObject::tr("Notices and busy panels"));
         auto* row = new DialogRow(kinds.at(i), page);
         page->addWidget(row, true);
+        rows << row;
     }
     page->addStretch();
+    page->list()->installEventFilter(new PressToRow(page, rows));
 
     // Pictures of every dialog, open over this page.
     page->extraScreenshots = [page](QString const& dir, QString const& prefix) {

@@ -262,6 +262,7 @@ void TestWaitingDialogs::animationReachesTheEndOnTheTwelfthTick()
     dialog.setEffectDurationMs(120); // ticks of 10 ms
     QTRY_VERIFY_WITH_TIMEOUT(dialog.animationInterval() == 0, 2000);
     QCOMPARE(dialog.progressBar()->value(), 1200);
+    QCOMPARE(dialog.animationStep(), 12); // stopped on the twelfth tick
     QList<int> seen;
     for (auto const& args : values)
         seen << args.at(0).toInt();

@@ -3,6 +3,7 @@
 #include "dialogutil_p.h"
 #include "stylehelper.h"
 
+#include <QApplication>
 #include <QButtonGroup>
 #include <QDebug>
 #include <QFontMetrics>
@@ -233,7 +234,12 @@ int CustomReminderDialog::exec()
     for (QFrame* tile : d->tiles)
         if (auto* caption = tile->findChild<QLabel*>())
             caption->setStyleSheet(sheet);
-    return QDialog::exec();
+    QPointer<QWidget> previous = QApplication::activeWindow();
+    QPointer<CustomReminderDialog> self(this);
+    int const result = QDialog::exec();
+    if (self && previous && previous != this && previous->isVisible())
+        previous->activateWindow();
+    return result;
 }
 
 int CustomReminderDialog::getCustomReminderDialogWidth() const { return d->width; }
