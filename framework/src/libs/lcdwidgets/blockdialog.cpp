@@ -59,7 +59,8 @@ void TwelveSegmentVerticalProgressBar::paintEvent(QPaintEvent*)
 
 // ---- BlockDialog ----
 
-class BlockDialog::Impl : public QObject
+// Private state: hidden, unlike the exported class it belongs to.
+class __attribute__((visibility("hidden"))) BlockDialog::Impl : public QObject
 {
 public:
     BlockDialog* dialog = nullptr;

@@ -22,7 +22,8 @@ char const* const kWho = "[CustomReminderDialog]";
 char const* const kRole = "MyButtonRole";
 } // namespace
 
-struct CustomReminderDialog::Impl
+// Private state: hidden, unlike the exported class it belongs to.
+struct __attribute__((visibility("hidden"))) CustomReminderDialog::Impl
 {
     QButtonGroup* group = nullptr;
     QList<QFrame*> tiles;

@@ -26,7 +26,8 @@ char const* const kWho = "[MiniProcessDialog]";
 bool validType(int type) { return type >= MiniProcessDialog::Information && type <= MiniProcessDialog::Progress; }
 } // namespace
 
-struct MiniProcessDialog::Impl
+// Private state: hidden, unlike the exported class it belongs to.
+struct __attribute__((visibility("hidden"))) MiniProcessDialog::Impl
 {
     QLabel* iconLabel = nullptr;
     ProgressBarCtr* progressBar = nullptr;

@@ -72,7 +72,8 @@ int runHelper(char const* helper, QWidget* parent, QString const& text, QRect re
 
 } // namespace
 
-struct ReminderDialog::Impl
+// Private state: hidden, unlike the exported class it belongs to.
+struct __attribute__((visibility("hidden"))) ReminderDialog::Impl
 {
     QTextEdit* textView = nullptr;
     QScrollBar* scrollBar = nullptr;
@@ -535,7 +536,8 @@ void ReminderDialog::changeEvent(QEvent* event)
 
 // ---- ReminderDialogApply ----
 
-struct ReminderDialogApply::Impl
+// Private state: hidden, unlike the exported class it belongs to.
+struct __attribute__((visibility("hidden"))) ReminderDialogApply::Impl
 {
     QFrame* frame = nullptr;
     QLabel* text = nullptr;

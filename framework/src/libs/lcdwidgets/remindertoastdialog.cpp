@@ -35,7 +35,8 @@ int runToast(char const* helper, QWidget* parent, QString const& text, QRect rec
 
 } // namespace
 
-struct ReminderToastDialog::Impl
+// Private state: hidden, unlike the exported class it belongs to.
+struct __attribute__((visibility("hidden"))) ReminderToastDialog::Impl
 {
     std::unique_ptr<QTimer> timer; // no Qt parent: owned here
     QLabel* text = nullptr;

@@ -14,7 +14,8 @@
 namespace LCD {
 namespace Widget {
 
-class TipDialog::Impl : public QObject
+// Private state: hidden, unlike the exported class it belongs to.
+class __attribute__((visibility("hidden"))) TipDialog::Impl : public QObject
 {
 public:
     TipDialog* dialog = nullptr;

@@ -15,7 +15,8 @@ namespace {
 char const* const kImages[] = {"toast_warning", "toast_critical", "toast_info", "toast_success"};
 } // namespace
 
-struct ToastDialog::Impl
+// Private state: hidden, unlike the exported class it belongs to.
+struct __attribute__((visibility("hidden"))) ToastDialog::Impl
 {
     ToastDialog* dialog = nullptr;
     QWidget* body = nullptr;

@@ -25,7 +25,8 @@ char const* const kWho = "[WaitingDialog]";
 QString const kLoadingImage = QStringLiteral("./../share/themes/default/images/icon_loading.gif");
 } // namespace
 
-struct WaitingDialog::Impl
+// Private state: hidden, unlike the exported class it belongs to.
+struct __attribute__((visibility("hidden"))) WaitingDialog::Impl
 {
     WaitingDialog* q = nullptr;
     QRect rect;
