@@ -218,11 +218,13 @@ QList<DialogKind> reminderKinds()
         MiniProcessDialog* d = MiniProcessDialog::progress(host, QString(), QRect(0, 0, area.width(), 96));
         d->setProgressText(QObject::tr("Importing stills"));
         d->setProgressValue(30);
+        // The band lies at the bottom of the dialog (as large as the screen): line
+        // that bottom up with the window's.
+        d->move(area.left(), area.bottom() + 1 - d->height());
         return d;
     };
     mini.open = [makeMini](QWidget* row) {
         std::unique_ptr<MiniProcessDialog> d(makeMini(row));
-        d->move(hostArea(row).topLeft());
         auto* timer = new QTimer(d.get());
         int value = 30;
         QObject::connect(timer, &QTimer::timeout, d.get(), [&value, dialog = d.get(), timer] {
