@@ -164,6 +164,14 @@ void TestWaitingDialogs::functionButtonReportsOnce()
     w->hideWaitingDialog();
     QVERIFY(!w->isFunButtonVisible());
     QCOMPARE(w->size(), QSize(500, 240));
+
+    // Showing again starts without the button, at the waiting size.
+    w->setFunButtonStatus(true, QStringLiteral("Cancel"), 7);
+    w->showWaitingDialog(QStringLiteral("Again"), kPanel);
+    QVERIFY(!w->isFunButtonVisible());
+    QCOMPARE(w->size(), QSize(500, 240));
+    QCOMPARE(w->findChild<QFrame*>(QStringLiteral("waitingFrame"))->property("isWaitingDialogFrameBg"), QVariant(true));
+    w->hideWaitingDialog();
 }
 
 void TestWaitingDialogs::parentDestroyedClearsTheInstance()
@@ -309,6 +317,8 @@ void TestWaitingDialogs::blockDialogCoversItsParentAndIgnoresEscape()
 
 void TestWaitingDialogs::blockDialogBadInputAndLifetime()
 {
+    QTest::ignoreMessage(QtWarningMsg, "[BlockDialog] createBlockDialog: text is empty: nothing shown");
+    QCOMPARE(BlockDialog::createBlockDialog(QString()), int(QDialog::Rejected));
     BlockDialog dialog(QStringLiteral("x"));
     QTest::ignoreMessage(QtWarningMsg, "[BlockDialog] setProgressRange: minimum 10 above maximum 5");
     dialog.setProgressRange(10, 5);

@@ -164,6 +164,10 @@ BlockDialog::~BlockDialog() { d->timer->stop(); }
 
 int BlockDialog::createBlockDialog(QString const& text, QWidget* parent)
 {
+    if (text.isEmpty()) {
+        qWarning() << "[BlockDialog] createBlockDialog: text is empty: nothing shown";
+        return QDialog::Rejected;
+    }
     auto* dialog = new BlockDialog(QString(), parent);
     dialog->setText(text);
     return dialog->run();

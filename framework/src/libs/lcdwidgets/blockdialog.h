@@ -36,6 +36,7 @@ public:
     ~BlockDialog() override;
 
     // Creates one on the heap, sets the text and runs it; returns the exec() result.
+    // An empty text is refused (nothing shown, QDialog::Rejected).
     static int createBlockDialog(QString const& text, QWidget* parent = nullptr);
 
     void setText(QString const& text);

@@ -191,8 +191,7 @@ void WaitingDialog::showWaitingDialog(QString const& text, QRect rect, TooltipLe
     if (modal && modal != this)
         return;
     qDebug() << "show waitingdialog";
-    d->funButton->hide();
-    d->funVisible = false;
+    setFunButtonVisible(false);
     if (level < White || level > Red) {
         qWarning().noquote() << kWho << "showWaitingDialog: unknown text level" << int(level);
         level = White;
