@@ -50,7 +50,7 @@ void returnWhenHidden(WaitingDialog* w, QWidget* row)
     *connection = QObject::connect(w, &WaitingDialog::hideDialog, row, [row, connection] {
         QObject::disconnect(*connection);
         row->window()->activateWindow();
-        row->setFocus(Qt::OtherFocusReason);
+        row->parentWidget()->setFocus(Qt::OtherFocusReason); // the page's list
     });
 }
 
@@ -71,8 +71,8 @@ struct DialogKind
     std::function<QWidget*(QWidget* window)> picture;
 };
 
-// A row of the page that opens its dialog on the knob's press; other keys go on to
-// the page (Up/Down walk the rows).
+// A row of the page that opens its dialog on the knob's press (given the focus,
+// it takes the press itself; other keys go on to the page).
 class DialogRow : public QFrame
 {
 public:
@@ -106,7 +106,7 @@ public:
         if (isVisible()) {
             if (!window()->isActiveWindow() && !QApplication::activeModalWidget())
                 window()->activateWindow();
-            setFocus(Qt::OtherFocusReason);
+            m_page->list()->setFocus(Qt::OtherFocusReason);
         }
     }
 
@@ -459,7 +459,9 @@ ItemPage* buildDialogsPage(GalleryContext&)
         if (i == reminderKinds().size())
             page->addSection(QObject::tr("Notices and busy panels"));
         auto* row = new DialogRow(kinds.at(i), page);
-        page->addWidget(row, true);
+        // The list keeps the knob (Left/Right still change pages); its press opens
+        // the current row's dialog.
+        page->addWidget(row, true, [page] { page->list()->setFocus(Qt::OtherFocusReason); });
         rows << row;
     }
     page->addStretch();
