@@ -13,8 +13,8 @@
 
 namespace Modal {
 
-// Calls `step` with the active modal widget as soon as there is one (polled every
-// 2 ms, for at most `timeoutMs`).
+// Calls `step` with the active modal widget as soon as there is one and it has the
+// keyboard (polled every 2 ms, for at most `timeoutMs`).
 inline void whenModal(std::function<void(QWidget*)> step, int timeoutMs = 3000)
 {
     auto* timer = new QTimer;
@@ -22,7 +22,9 @@ inline void whenModal(std::function<void(QWidget*)> step, int timeoutMs = 3000)
     QObject::connect(timer, &QTimer::timeout, [timer, waited, step, timeoutMs] {
         QWidget* modal = QApplication::activeModalWidget();
         *waited += 2;
-        if (modal && modal->isVisible()) {
+        // Up and active (it has the keys); a platform that never activates it gets
+        // half a second.
+        if (modal && modal->isVisible() && (modal->isActiveWindow() || *waited > 500)) {
             timer->stop();
             timer->deleteLater();
             step(modal);
