@@ -109,7 +109,7 @@ void TestDialogLifetime::helperWhileAnotherModalRuns()
         inner = ReminderDialog::information(outer, QStringLiteral("Inner"), kPanel);
         outerStillOpen = outer->isVisible() && QApplication::activeModalWidget() == outer;
         // The knob comes back to the first box's buttons.
-        QTest::qWaitFor([outer] {
+        (void)QTest::qWaitFor([outer] {
             QWidget* focus = QApplication::focusWidget();
             return focus && outer->isAncestorOf(focus);
         }, 1000);
