@@ -7,7 +7,10 @@
 #include <tipdialog.h>
 #include <toastdialog.h>
 
+#include <QFile>
 #include <QLabel>
+#include <QMovie>
+#include <QRegularExpression>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QtTest>
@@ -34,6 +37,7 @@ private slots:
     void tipReturnsTheChoice();
     void tipEscapeAndHiddenButtons();
     void tipBadInputAndAutoDelete();
+    void themeImagesOfTheDialogs();
 };
 
 void TestToasts::reminderToastSizeIconAndMask()
@@ -259,6 +263,28 @@ void TestToasts::tipBadInputAndAutoDelete()
     Modal::Guard guard;
     QVERIFY(!TipDialog::createTipDialog(QStringLiteral("Orphan"), parent));
     QVERIFY(!guard.fired());
+}
+
+void TestToasts::themeImagesOfTheDialogs()
+{
+    // Every image the theme's dialog rules name is there and loads.
+    QFile theme(QStringLiteral("./../share/themes/default/default.qss"));
+    QVERIFY(theme.open(QIODevice::ReadOnly));
+    QString const sheet = QString::fromUtf8(theme.readAll());
+    int const start = sheet.indexOf(QStringLiteral("---- Dialogs"));
+    QVERIFY(start > 0);
+    QRegularExpression const url(QStringLiteral("url\\(([^)]+)\\)"));
+    QStringList files;
+    for (auto it = url.globalMatch(sheet.mid(start)); it.hasNext();)
+        files << it.next().captured(1);
+    QVERIFY(files.size() >= 13);
+    for (QString const& file : files)
+        QVERIFY2(!QImage(file).isNull(), qPrintable(file));
+
+    // The loading animation of the waiting and block dialogs.
+    QMovie loading(QStringLiteral("./../share/themes/default/images/icon_loading.gif"));
+    QVERIFY(loading.isValid());
+    QCOMPARE(loading.frameCount(), 12);
 }
 
 QTEST_MAIN(TestToasts)
