@@ -93,7 +93,7 @@ struct __attribute__((visibility("hidden"))) ReminderDialog::Impl
     std::atomic<int> executing{0};
     QFrame* frame = nullptr;
     bool textFocusedOnce = false;
-    int unused = 2000;
+    int showTime = 2000; // kept for the host; nothing reads it
     QTimer* closeTimer = nullptr;
     QRect rect;
     float fontSize = 0;
