@@ -5,6 +5,7 @@
 #include "knob.h"
 #include "modal.h"
 
+#include <lcdfwtranslatemanager.h>
 #include <minireminderdialog.h>
 #include <reminderdialog.h>
 
@@ -59,6 +60,7 @@ private slots:
     void scrollBarDetectionIsQueued();
     void miniProcessDialog();
     void reminderDialogApply();
+    void buttonsTranslatedAgainByRole();
 };
 
 void TestReminderDialog::sizesFollowTheHostRectangle()
@@ -444,6 +446,28 @@ void TestReminderDialog::reminderDialogApply()
     QCOMPARE(clicked.count(), 1);
     QTest::ignoreMessage(QtWarningMsg, "[ReminderDialogApply] cannot load icon /nonexistent.png");
     dialog.setIconPath(QStringLiteral("/nonexistent.png"));
+}
+
+void TestReminderDialog::buttonsTranslatedAgainByRole()
+{
+    ReminderDialog dialog(ReminderDialog::Question, kPanel);
+    QPushButton* details = dialog.addButton(QDialogButtonBox::ActionRole);
+    QPushButton* ok = dialog.addButton(QDialogButtonBox::YesRole);
+    QPushButton* cancel = dialog.addButton(QDialogButtonBox::NoRole);
+    QPushButton* reset = dialog.addButton(QDialogButtonBox::ResetRole);
+    LCDFWTranslateManager* manager = LCDFWTranslateManager::instance();
+    QVERIFY(manager->setLanguage(QStringLiteral(LCDWIDGETS_TEST_DATA "/lcdwidgets_test_dialogs_zh.qm")));
+    QCoreApplication::processEvents();
+    QCOMPARE(details->text(), QStringLiteral("详情"));
+    QCOMPARE(ok->text(), QStringLiteral("确定"));
+    QCOMPARE(cancel->text(), QStringLiteral("取消"));
+    // Reset is not among the roles the mapping reports: it keeps its text.
+    QCOMPARE(reset->text(), QStringLiteral("Reset"));
+    // New buttons come in the current language.
+    QCOMPARE(dialog.addButton(QDialogButtonBox::YesRole)->text(), QStringLiteral("确定"));
+    manager->resetLanguage();
+    QCoreApplication::processEvents();
+    QCOMPARE(ok->text(), QStringLiteral("OK"));
 }
 
 QTEST_MAIN(TestReminderDialog)
