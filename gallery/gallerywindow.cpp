@@ -145,6 +145,11 @@ int GalleryWindow::renderScreenshots(QString const& dir)
             ++written;
         for (auto const& variant : qAsConst(p->screenshotVariants))
             render(i, QStringLiteral("-") + variant.first, variant.second);
+        if (p->extraScreenshots) {
+            QApplication::processEvents();
+            p->extraScreenshots(dir, QStringLiteral("%1").arg(i + 1, 2, 10, QLatin1Char('0')));
+            closeOtherWindows();
+        }
     }
     return written;
 }

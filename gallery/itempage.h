@@ -55,6 +55,9 @@ public:
     std::function<void()> screenshotSetup;
     // More pictures of the page, each after its own setup (file-name suffix, setup).
     QList<QPair<QString, std::function<void()>>> screenshotVariants;
+    // Called after the page's screenshot to render more pictures (open dialogs) to
+    // DIR/PREFIX-*.png; returns how many were written.
+    std::function<int(QString const& dir, QString const& prefix)> extraScreenshots;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -14,5 +14,6 @@ QList<PageInfo> galleryPages()
         {QStringLiteral("switchers"), buildSwitchersPage},
         {QStringLiteral("tbar"), buildTBarPage},
         {QStringLiteral("choices"), buildChoicesPage},
+        {QStringLiteral("dialogs"), buildDialogsPage},
     };
 }

@@ -28,6 +28,7 @@ ItemPage* buildNetworkPage(GalleryContext& context);
 ItemPage* buildSwitchersPage(GalleryContext& context);
 ItemPage* buildTBarPage(GalleryContext& context);
 ItemPage* buildChoicesPage(GalleryContext& context); // switches, button rows, effect chooser
+ItemPage* buildDialogsPage(GalleryContext& context); // dialogs (page_dialogs.cpp)
 
 // Sections that other pages include.
 void addBarSection(ItemPage* page, GalleryContext& context);      // bottom and reset/apply bars (Display page)

@@ -31,6 +31,7 @@ int main(int argc, char** argv)
     addListImages(table);
     addDeviceImages(table);
     addChoiceImages(table);
+    addDialogImages(table);
     for (auto const& [name, image] : table) {
         if (image.frames > 1) {
             if (!writeGif(out.filePath(name), image)) {

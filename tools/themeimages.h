@@ -52,5 +52,6 @@ void addEditorImages(ImageTable& table);    // spin boxes and numeric rows
 void addListImages(ImageTable& table);      // drop-downs and menus
 void addDeviceImages(ImageTable& table);    // number pad and device pages
 void addChoiceImages(ImageTable& table);    // choice controls: effect pictures and previews
+void addDialogImages(ImageTable& table);    // reminder, toast, tile and loading images
 
 } // namespace themeimages

@@ -51,5 +51,22 @@ int createEveryClass(QWidget* page)
             << new ResetApplyWidget(Enum::ResetAndApplyButton, page);
     for (QWidget* w : widgets)
         layout->addWidget(w);
-    return widgets.size();
+
+    // Dialogs: created over the panel's screen, not shown, deleted again.
+    QRect const screen(0, 0, 800, 480);
+    QList<QDialog*> const dialogs = {
+        new ReminderDialog(ReminderDialog::Question, screen, page),
+        new MiniProcessDialog(MiniProcessDialog::Progress, QRect(0, 0, 800, 96), page),
+        new ReminderDialogApply(page),
+        new ReminderToastDialog(screen, page),
+        new ToastDialog(QStringLiteral("toast"), 1000, 2, true, page),
+        new TipDialog(QStringLiteral("tip"), page),
+        new BlockDialog(QStringLiteral("block"), page),
+        new CustomReminderDialog(screen),
+        new RoundedCornersDialog(page),
+    };
+    WaitingDialog::instance(screen, page);
+    WaitingDialog::deleteInstance();
+    qDeleteAll(dialogs);
+    return widgets.size(); // the widgets placed on the page
 }

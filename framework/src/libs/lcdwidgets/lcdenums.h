@@ -37,6 +37,18 @@ enum ResetApplyButtonType {
     ResetAndApplyButton = 3,
 };
 
+// ---- Dialogs ----
+// Kind of a reminder or toast dialog; selects its icon ("isReminderIcon").
+enum DialogType {
+    DialogInformation = 0,
+    DialogQuestion = 1,
+    DialogWarning = 2,
+    DialogProsper = 3, // success
+    DialogError = 4,
+    DialogOngoing = 5,  // busy, no buttons
+    DialogProgress = 6, // with a progress bar
+};
+
 } // namespace Enum
 } // namespace Widget
 } // namespace LCD

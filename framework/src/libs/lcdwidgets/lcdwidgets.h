@@ -91,3 +91,12 @@
 #include "typeitemmultioperbtn.h"
 #include "typemultipleselectbtn.h"
 #include "effectpicturewidget.h"
+// Dialogs
+#include "reminderdialog.h"
+#include "minireminderdialog.h"
+#include "remindertoastdialog.h"
+#include "toastdialog.h"
+#include "tipdialog.h"
+#include "waitingdialog.h"
+#include "blockdialog.h"
+#include "customreminderdialog.h"

@@ -1,0 +1,66 @@
+#include "dialogutil_p.h"
+
+#include <QBitmap>
+#include <QDebug>
+#include <QPainter>
+#include <QWidget>
+
+namespace LCD {
+namespace Widget {
+namespace DialogUtil {
+
+QRect hostRect(QRect const& rect, char const* who)
+{
+    if (rect.width() > 0 && rect.height() > 0)
+        return rect;
+    qWarning().noquote() << who << "host rectangle is empty, using 800x480";
+    return QRect(0, 0, kFallbackWidth, kFallbackHeight);
+}
+
+int part(qint64 v, qint64 num, qint64 den)
+{
+    if (den == 0)
+        return 0;
+    return int(qBound<qint64>(0, v * num / den, QWIDGETSIZE_MAX));
+}
+
+int fontPixels(float fontSize)
+{
+    if (!(fontSize >= 1.0f)) // also NaN
+        return 1;
+    if (fontSize >= 4096.0f)
+        return 4096;
+    return int(fontSize);
+}
+
+QPoint centreOn(QRect const& host, QSize const& size)
+{
+    qint64 const x = qint64(host.x()) + host.width() / 2 - size.width() / 2;
+    qint64 const y = qint64(host.y()) + host.height() / 2 - size.height() / 2;
+    return QPoint(int(qBound<qint64>(-QWIDGETSIZE_MAX, x, QWIDGETSIZE_MAX)),
+                  int(qBound<qint64>(-QWIDGETSIZE_MAX, y, QWIDGETSIZE_MAX)));
+}
+
+QString fontSheet(char const* type, int px)
+{
+    return QLatin1String(type) + QStringLiteral("{font-size: ") + QString::number(px) + QStringLiteral("px; }");
+}
+
+void setRoundedMask(QWidget* widget, qreal radius)
+{
+    if (!widget || widget->width() <= 0 || widget->height() <= 0)
+        return;
+    QBitmap mask(widget->size());
+    mask.fill(Qt::color0);
+    QPainter painter(&mask);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Qt::color1);
+    painter.drawRoundedRect(QRectF(QPointF(0, 0), QSizeF(widget->size())), radius, radius);
+    painter.end();
+    widget->setMask(mask);
+}
+
+} // namespace DialogUtil
+} // namespace Widget
+} // namespace LCD

@@ -1,0 +1,43 @@
+// Geometry and look shared by the frameless dialogs: sizes derived from the host
+// rectangle, centring, the rounded window mask and the pixel-size style sheets.
+#pragma once
+
+#include <QPoint>
+#include <QRect>
+#include <QSize>
+#include <QString>
+
+class QWidget;
+
+namespace LCD {
+namespace Widget {
+namespace DialogUtil {
+
+// The panel screen a dialog falls back to when its host gives no usable rectangle.
+constexpr int kFallbackWidth = 800;
+constexpr int kFallbackHeight = 480;
+
+// `rect` when it has a positive width and height; otherwise the warning
+// "<who> host rectangle is empty, using 800x480" and the panel's full screen.
+QRect hostRect(QRect const& rect, char const* who);
+
+// v · num / den in 64 bits, clamped to [0, QWIDGETSIZE_MAX] (a size or a spacing).
+int part(qint64 v, qint64 num, qint64 den);
+
+// The dialogs' font size: the host width / 37.5.
+inline float fontSize(QRect const& rect) { return float(rect.width()) / 37.5f; }
+// Its integer part, at least 1, as a pixel size.
+int fontPixels(float fontSize);
+
+// Top-left corner that centres `size` on `host`.
+QPoint centreOn(QRect const& host, QSize const& size);
+
+// "<type>{font-size: <px>px; }"
+QString fontSheet(char const* type, int px);
+
+// Masks `widget` to its rectangle with corners of `radius`.
+void setRoundedMask(QWidget* widget, qreal radius = 6.0);
+
+} // namespace DialogUtil
+} // namespace Widget
+} // namespace LCD

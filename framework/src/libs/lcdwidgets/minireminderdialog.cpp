@@ -1,0 +1,319 @@
+#include "minireminderdialog.h"
+
+#include "dialogutil_p.h"
+#include "progressbarctr.h"
+#include "reminderbuttons_p.h"
+#include "stylehelper.h"
+
+#include <QApplication>
+#include <QDebug>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPointer>
+#include <QPushButton>
+#include <QScreen>
+#include <QTimer>
+#include <QVBoxLayout>
+#include <atomic>
+
+namespace LCD {
+namespace Widget {
+
+namespace {
+char const* const kWho = "[MiniProcessDialog]";
+bool validType(int type) { return type >= MiniProcessDialog::Information && type <= MiniProcessDialog::Progress; }
+} // namespace
+
+// Private state: hidden, unlike the exported class it belongs to.
+struct __attribute__((visibility("hidden"))) MiniProcessDialog::Impl
+{
+    QLabel* iconLabel = nullptr;
+    ProgressBarCtr* progressBar = nullptr;
+    QFrame* frame = nullptr;
+    std::unique_ptr<ReminderButtons> buttons;
+    DialogType type = Information;
+    VerticalPosition position = Bottom;
+    QPointer<QAbstractButton> clicked;
+    QPointer<QWidget> parent;
+    std::atomic<int> executing{0};
+    QTimer* closeTimer = nullptr;
+    QRect rect;
+    QString text;
+    float fontSize = 0;
+};
+
+MiniProcessDialog::MiniProcessDialog(DialogType type, QRect rect, QWidget* parent, VerticalPosition position)
+    : QDialog(nullptr), d(new Impl)
+{
+    d->rect = DialogUtil::hostRect(rect, kWho);
+    if (!validType(type)) {
+        qWarning().noquote() << kWho << "unknown dialog type" << int(type) << "taken as information";
+        type = Information;
+    }
+    d->type = type;
+    d->position = position;
+    d->parent = parent;
+    d->fontSize = DialogUtil::fontSize(d->rect);
+
+    QRect screen(0, 0, DialogUtil::kFallbackWidth, DialogUtil::kFallbackHeight);
+    if (QScreen* primary = QGuiApplication::primaryScreen())
+        screen = primary->geometry();
+    qDebug().nospace() << "primaryScreen :" << screen.width() << ";y:" << screen.height();
+    setFixedSize(screen.size());
+    setWindowFlags(windowFlags() | Qt::FramelessWindowHint);
+    setAttribute(Qt::WA_TranslucentBackground);
+    setProperty("isReminderDialogBg", true);
+
+    // The box and the icon are not part of the band: the box stays where the
+    // dialog puts it (its buttons still take the knob), the icon is not shown.
+    d->buttons = std::make_unique<ReminderButtons>(this, d->rect.width(), d->fontSize);
+    d->iconLabel = new QLabel(this);
+    d->iconLabel->hide();
+
+    d->frame = new QFrame(this);
+    d->frame->setObjectName(QStringLiteral("miniProcessFrame"));
+    d->frame->setContentsMargins(0, 0, 0, 0);
+    d->frame->setProperty("isReminderFrameBg", true);
+    d->frame->setFixedSize(screen.width(), qMin(screen.height(), d->rect.height()));
+    d->progressBar = new ProgressBarCtr(d->rect, d->frame);
+    d->progressBar->hide();
+
+    auto* outer = new QVBoxLayout(this);
+    outer->setContentsMargins(0, 0, 0, 0);
+    outer->setSpacing(0);
+    outer->addStretch();
+    outer->addWidget(d->frame);
+    auto* inner = new QVBoxLayout(d->frame);
+    inner->setContentsMargins(0, 0, 0, 0);
+    inner->addStretch();
+    auto* row = new QHBoxLayout;
+    row->addStretch();
+    row->addWidget(d->progressBar);
+    row->addStretch();
+    inner->addLayout(row);
+    inner->addStretch();
+
+    d->closeTimer = new QTimer(this);
+    connect(d->closeTimer, &QTimer::timeout, this, [this] {
+        close();
+        d->closeTimer->stop();
+    });
+    connect(d->buttons->box(), &QDialogButtonBox::clicked, this, &MiniProcessDialog::slot_buttonClicked);
+    if (parent) {
+        connect(parent, &QObject::destroyed, this, [this] {
+            if (isVisible())
+                done(-1);
+        });
+    }
+    setFocus(Qt::OtherFocusReason);
+}
+
+MiniProcessDialog::~MiniProcessDialog() = default;
+
+int MiniProcessDialog::prosper(QWidget* parent, QString const& text, QRect rect, QDialogButtonBox::ButtonRole role)
+{
+    if (text.isEmpty()) {
+        qWarning().noquote() << kWho << "prosper text is empty: nothing shown";
+        return QDialogButtonBox::NoRole;
+    }
+    QPointer<MiniProcessDialog> dialog = new MiniProcessDialog(Prosper, rect, parent);
+    dialog->setIcon(Prosper);
+    if (role != QDialogButtonBox::NoRole) {
+        QPushButton* ok = dialog->addButton(QDialogButtonBox::YesRole);
+        if (role == QDialogButtonBox::YesRole)
+            dialog->setDefaultButton(ok);
+    }
+    dialog->setText(text);
+    int const result = dialog->exec();
+    if (!dialog)
+        return QDialogButtonBox::NoRole;
+    int const clicked = result == -1 ? int(QDialogButtonBox::NoRole) : dialog->clickedButtonRole();
+    delete dialog.data();
+    return clicked == -1 ? int(QDialogButtonBox::NoRole) : clicked;
+}
+
+MiniProcessDialog* MiniProcessDialog::ongoing(QWidget* parent, QString const& text, QRect rect,
+                                              QDialogButtonBox::ButtonRole, VerticalPosition position)
+{
+    auto* dialog = new MiniProcessDialog(Ongoing, rect, parent, position);
+    dialog->setIcon(Ongoing);
+    dialog->setText(text);
+    return dialog;
+}
+
+MiniProcessDialog* MiniProcessDialog::progress(QWidget* parent, QString const& text, QRect rect,
+                                               VerticalPosition position, QDialogButtonBox::ButtonRole, bool cancel)
+{
+    auto* dialog = new MiniProcessDialog(Progress, rect, parent, position);
+    dialog->setIcon(Progress);
+    if (cancel)
+        dialog->setDefaultButton(dialog->addButton(QDialogButtonBox::NoRole));
+    dialog->setText(text);
+    return dialog;
+}
+
+QPushButton* MiniProcessDialog::addButton(QDialogButtonBox::ButtonRole role)
+{
+    return d->buttons->add(role, width(), kWho);
+}
+
+QPushButton* MiniProcessDialog::button(QDialogButtonBox::ButtonRole role) const { return d->buttons->button(role); }
+
+void MiniProcessDialog::setDefaultButton(QPushButton* button) { d->buttons->setDefault(button); }
+
+void MiniProcessDialog::setButtonBoxLayoutDirection(Qt::LayoutDirection direction)
+{
+    d->buttons->box()->setLayoutDirection(direction);
+}
+
+int MiniProcessDialog::clickedButtonRole() const { return d->buttons->roleOf(d->clicked); }
+
+int MiniProcessDialog::buttonRole(QPushButton* button) const { return d->buttons->roleOf(button); }
+
+void MiniProcessDialog::setText(QString const& text)
+{
+    d->text = text;
+    if (QPushButton* last = d->buttons->last())
+        last->setFocus(Qt::OtherFocusReason);
+}
+
+QString MiniProcessDialog::text() const { return d->text; }
+
+void MiniProcessDialog::setIcon(DialogType type)
+{
+    if (!validType(type)) {
+        qWarning().noquote() << kWho << "setIcon: unknown dialog type" << int(type);
+        return;
+    }
+    static char const* const names[] = {"information", "question", "warning", "prosper", "error"};
+    if (type <= Error)
+        d->iconLabel->setProperty("isReminderIcon", names[type]);
+    d->progressBar->setVisible(type == Progress);
+    repolish(d->iconLabel);
+    update();
+}
+
+void MiniProcessDialog::setProgressValue(int value) { d->progressBar->setCurrentValue(value); }
+
+void MiniProcessDialog::setProgressText(QString const& text) { d->progressBar->setProgressText(text); }
+
+void MiniProcessDialog::setProgressFocus() { d->progressBar->setFocus(Qt::OtherFocusReason); }
+
+void MiniProcessDialog::setDialogSize(QSize size)
+{
+    if (size.width() < 0 || size.height() < 0) {
+        qWarning().noquote() << kWho << "setDialogSize: negative size refused" << size;
+        return;
+    }
+    setFixedSize(size.boundedTo(QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX)));
+}
+
+void MiniProcessDialog::setDialogShowTimer(int const& ms)
+{
+    d->progressBar->hide();
+    d->buttons->box()->hide();
+    d->closeTimer->start(qMax(0, ms));
+}
+
+void MiniProcessDialog::setLineHidden(bool) {}
+
+MiniProcessDialog::DialogType MiniProcessDialog::getDialogType() const { return d->type; }
+
+MiniProcessDialog::VerticalPosition MiniProcessDialog::verticalPosition() const { return d->position; }
+
+int MiniProcessDialog::getLineWidth() const { return DialogUtil::part(d->rect.width(), 5, 8); }
+
+int MiniProcessDialog::getReminderDialogWidth() const { return width(); }
+
+int MiniProcessDialog::getReminderDialogHeight() const { return height(); }
+
+float MiniProcessDialog::getFontSize() const { return d->fontSize; }
+
+bool MiniProcessDialog::isExec() const { return d->executing.load() != 0; }
+
+int MiniProcessDialog::exec()
+{
+    QPointer<MiniProcessDialog> self(this);
+    // The dialog is a window of its own: give the knob back to the window that
+    // had it (another box, the host's page) when it closes.
+    QPointer<QWidget> previous = QApplication::activeWindow();
+    d->executing.store(1);
+    int const result = QDialog::exec();
+    if (previous && previous != this && previous->isVisible())
+        previous->activateWindow();
+    qDebug().nospace() << "[dialog] exec finish with " << result;
+    if (self)
+        d->executing.store(0);
+    return result;
+}
+
+void MiniProcessDialog::slot_buttonClicked(QAbstractButton* button)
+{
+    if (!button || !button->isVisible() || !d->buttons->box()->buttons().contains(button))
+        return;
+    d->clicked = button;
+    switch (d->buttons->box()->buttonRole(button)) {
+    case QDialogButtonBox::NoRole:
+        done(QDialogButtonBox::NoRole);
+        break;
+    case QDialogButtonBox::YesRole:
+    case QDialogButtonBox::ActionRole:
+        accept();
+        break;
+    default:
+        break;
+    }
+}
+
+bool MiniProcessDialog::swallowsBack(QKeyEvent* event) const
+{
+    return d->type == Progress && (event->key() == Qt::Key_Escape || event->key() == Qt::Key_Back);
+}
+
+bool MiniProcessDialog::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::KeyPress && qobject_cast<QPushButton*>(watched)) {
+        auto* key = static_cast<QKeyEvent*>(event);
+        if (swallowsBack(key)) {
+            key->accept();
+            return true;
+        }
+        if (d->buttons->navigate(key, nullptr, false))
+            return true;
+    }
+    return QDialog::eventFilter(watched, event);
+}
+
+void MiniProcessDialog::keyPressEvent(QKeyEvent* event)
+{
+    if (swallowsBack(event)) {
+        event->accept();
+        return;
+    }
+    QDialog::keyPressEvent(event);
+}
+
+void MiniProcessDialog::showEvent(QShowEvent* event)
+{
+    int const N = DialogUtil::fontPixels(d->fontSize);
+    d->buttons->setFontPixels(N);
+    d->iconLabel->setFixedSize(2 * N, 2 * N);
+    d->progressBar->setFontSize(N);
+    QString const radius = QString::number(N * 8 / 14);
+    setStyleSheet(QStringLiteral("QDialog{border-radius;") + radius + QStringLiteral("px;}"));
+    if (!d->buttons->anyVisible())
+        setFocus(Qt::OtherFocusReason);
+    QDialog::showEvent(event);
+}
+
+void MiniProcessDialog::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        d->buttons->retranslate();
+    QDialog::changeEvent(event);
+}
+
+} // namespace Widget
+} // namespace LCD

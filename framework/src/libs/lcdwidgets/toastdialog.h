@@ -1,0 +1,50 @@
+// A small always-on-top popup with a typed icon and a text, centred on its parent,
+// that closes and deletes itself after a given time unless made permanent.
+//
+//   ToastDialog::createToastDialog(tr("Recording started"), 2000, 3, false, page);
+//
+// Popup types (the icon label's "image" property): 0 "toast_warning",
+// 1 "toast_critical", 2 "toast_info", 3 "toast_success". Escape does not close it.
+#pragma once
+
+#include "lcdwidgets_global.h"
+
+#include <QDialog>
+#include <memory>
+
+namespace LCD {
+namespace Widget {
+
+class LCDWIDGETS_EXPORT ToastDialog : public QDialog
+{
+    Q_OBJECT
+public:
+    ToastDialog(QString const& text, unsigned int const& ms, int popupType = 2, bool permanent = false,
+                QWidget* parent = nullptr);
+    ~ToastDialog() override;
+
+    // Creates a toast on the heap and shows it (non-modal); it deletes itself when
+    // closed. An empty text is refused (null).
+    static ToastDialog* createToastDialog(QString const& text, unsigned int const& ms, int popupType = 2,
+                                          bool permanent = false, QWidget* parent = nullptr);
+
+    void setToastText(QString const& text);
+    QString toastText() const;
+    // A permanent toast stays until its owner closes it; clearing the flag later
+    // does not start a timer.
+    void setPermanent(bool permanent);
+    bool isPermanent() const;
+    // 0 to 3; other values are refused.
+    void setPopupType(int type);
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    struct Impl;
+    std::unique_ptr<Impl> d;
+};
+
+} // namespace Widget
+} // namespace LCD
