@@ -179,6 +179,7 @@ struct LCDWIDGETS_HIDDEN DropCombobox::Impl
     int widthLimit = 0;
     int widest = 0;     // widest visible entry text, as last measured
     bool editing = false; // a list was opened by showPopup() and has not ended yet
+    bool viewPrepared = false; // the standard popup exists and is watched
     QString viewSheet;  // standard popup's sheet, as last applied
 };
 
@@ -204,7 +205,7 @@ void DropCombobox::createWidget()
     setCompleter(nullptr);
     lineEdit()->setReadOnly(true);
     lineEdit()->installEventFilter(this);
-    view()->installEventFilter(this);
+    // The standard popup (a window with its view) is made when first opened.
 
     d->scrollTimer = new QTimer(this);
     d->scrollTimer->setInterval(kScrollInterval);
@@ -368,7 +369,17 @@ void DropCombobox::setComboBoxMaxWidth()
 
 CustomListView* DropCombobox::getCustomListView() const { return d->list; }
 
-bool DropCombobox::isPopupVisible() const { return view() && view()->isVisible(); }
+bool DropCombobox::isPopupVisible() const { return d->viewPrepared && view()->isVisible(); }
+
+QAbstractItemView* DropCombobox::standardView()
+{
+    if (!d->viewPrepared) {
+        view()->installEventFilter(this);
+        d->viewPrepared = true;
+        emit signalStandardViewCreated(view());
+    }
+    return view();
+}
 
 bool DropCombobox::isCustomPopupVisible() const { return d->list && d->list->isVisible(); }
 
@@ -419,7 +430,7 @@ void DropCombobox::showPopup()
     }
 
     d->editing = true;
-    QAbstractItemView* v = view();
+    QAbstractItemView* v = standardView();
     disconnect(v, &QAbstractItemView::activated, this, nullptr);
     connect(v, &QAbstractItemView::activated, this, [this](QModelIndex const& index) {
         if (!index.isValid())

@@ -29,6 +29,7 @@
 #include <QStyledItemDelegate>
 #include <memory>
 
+class QAbstractItemView;
 class QTimer;
 
 namespace LCD {
@@ -170,6 +171,8 @@ signals:
     void signalIndexChanged(int index);
     // The width that follows the entries changed (the row lays its title out anew).
     void signalWidthChanged(int width);
+    // The standard popup was made (on its first opening): its view, for watchers.
+    void signalStandardViewCreated(QAbstractItemView* view);
 
 protected:
     // Places the standard popup inside the home rectangle (width: the widest the
@@ -182,6 +185,7 @@ private:
     void createView();
     void finishEdit();
     void settleActivation();
+    QAbstractItemView* standardView();
     void applyHiddenRows(QListView* view) const;
     void applySheet();
     int rowHeight() const;

@@ -36,6 +36,7 @@ struct LCDWIDGETS_HIDDEN TypeStringCombox::Impl
     bool lineEditable = false; // setComboboxEditable: may the text be typed
     bool editing = false;     // a list opened by editValue() is open
     bool placingCursor = false; // the row itself puts the list's cursor: no live report
+    bool standardUsed = false;  // the combo's standard popup has been made
     QPoint homeFramePoint;
     bool hasHomeFramePoint = false;
     QRect homeRect;
@@ -55,7 +56,7 @@ struct LCDWIDGETS_HIDDEN TypeStringCombox::Impl
     // The list the combo opens with its current home rectangle and entries.
     QAbstractItemView* activeList() const
     {
-        if (combo->usesCustomPopup())
+        if (combo->usesCustomPopup() || !standardUsed)
             return combo->getCustomListView();
         return combo->view();
     }
@@ -119,8 +120,9 @@ void TypeStringCombox::Impl::createWidget(bool haveArrow)
 
     combo->installEventFilter(q);
     combo->lineEdit()->installEventFilter(q);
-    watchCursor(combo->view());
     watchCursor(combo->getCustomListView());
+    QObject::connect(combo, &DropCombobox::signalStandardViewCreated, q,
+                     [this](QAbstractItemView* view) { watchCursor(view); });
 
     QObject::connect(combo, &DropCombobox::eidtFinished, q, &TypeStringCombox::slotComBoxActivated);
     QObject::connect(combo, QOverload<int>::of(&QComboBox::currentIndexChanged), q,
@@ -287,8 +289,10 @@ void TypeStringCombox::setRowHidden(int index, bool hidden)
     d->combo->setItemData(index, hidden, kHiddenRowRole);
     if (auto* list = d->combo->getCustomListView(); list->isVisible())
         list->setRowHidden(index, hidden);
-    if (auto* view = qobject_cast<QListView*>(d->combo->view()); view && view->isVisible())
-        view->setRowHidden(index, hidden);
+    if (d->combo->isPopupVisible()) {
+        if (auto* view = qobject_cast<QListView*>(d->combo->view()))
+            view->setRowHidden(index, hidden);
+    }
 }
 
 void TypeStringCombox::setHomeFramePoint(QPoint point)
@@ -345,6 +349,9 @@ void TypeStringCombox::showPopup(bool quiet)
     }
     d->placingCursor = true;
     d->combo->showPopup();
+    if (!d->combo->usesCustomPopup())
+        d->standardUsed = true;
+    list = d->activeList();
 
     int const current = d->combo->currentIndex() < 0 ? 0 : d->combo->currentIndex();
     QModelIndex const index = d->combo->model()->index(current, d->combo->modelColumn(), d->combo->rootModelIndex());
@@ -375,7 +382,8 @@ void TypeStringCombox::setRowSelected(int row)
     }
     QModelIndex const index = d->combo->model()->index(row, d->combo->modelColumn(), d->combo->rootModelIndex());
     QScopedValueRollback<bool> quiet(d->placingCursor, true);
-    for (QAbstractItemView* list : {static_cast<QAbstractItemView*>(d->combo->getCustomListView()), d->combo->view()}) {
+    QAbstractItemView* standard = d->standardUsed ? d->combo->view() : nullptr;
+    for (QAbstractItemView* list : {static_cast<QAbstractItemView*>(d->combo->getCustomListView()), standard}) {
         if (list && list->selectionModel())
             list->selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
     }
