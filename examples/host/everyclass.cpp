@@ -45,6 +45,44 @@ int createEveryClass(QWidget* page)
         new ProgressBarCtr(QRect(0, 0, 800, 480), page),
         new RollLabel(page),
         new EllipsisLabel(page),
+        // Lists and menus
+        new FocusComboBox(page),
+        new DropCombobox(true, page),
+        new TypeStringCombox(page),
+        new TypeDialogMenu(page, nullptr),
+        // Choice controls
+        new SwitchControl(page),
+        new SwitchWidget(page),
+        new MultiBtnControl(page),
+        new MultiCheckBoxControl(page),
+        new MultiSwitchWidget(page),
+        new TypeItemSwitch(page),
+        new TypeItemMultiSwitch(page),
+        new MultiBtnWidget(3, page),
+        new MultipleSelectBtn(0, {ItemSelectInfo(QStringLiteral("A"), QIcon(), 1)}, page),
+        new MultiButtonControl(page),
+        new TypeItemMultiBtn(page),
+        new TypeItemMultiCheckBox(page),
+        new TypeItemMultiOperBtn(2, page),
+        new TypeMultipleSelectBtn(0, {ItemSelectInfo(QStringLiteral("A"), QIcon(), 1)}, page),
+        new EffectPictureWidget(frame),
+        new TypeItemEffectPicture(page),
+        // Instruments and drawing
+        new DashBoardWidget(page),
+        new DashBoardLabel(QSize(80, 24), page),
+        new TypeItemDashBoard(page),
+        new DrawGraphicsView(page),
+        new TypeDrawCropWidget(page),
+        // Address entry and device pages
+        new IPLineEdit(page),
+        new IPEdit(page),
+        new TypeIpAdjust(page),
+        new NumberPad(QRect(0, 0, 800, 480), page),
+        new NetworkSettings(page),
+        new AddDevice(page),
+        new SwitcherItem(page),
+        new SwitcherSelect(page),
+        new TypeItemTBarCalibration(page),
     };
     // The bars are created without a parent and placed by the page's layout.
     widgets << new BottomButtomFrame(static_cast<Enum::BottomButtonType>(Enum::BottomOk | Enum::BottomCancel), page)
@@ -64,6 +102,8 @@ int createEveryClass(QWidget* page)
         new BlockDialog(QStringLiteral("block"), page),
         new CustomReminderDialog(screen),
         new RoundedCornersDialog(page),
+        new DialogMenuWidget(page),
+        new MultipleDialog(0, {ItemSelectInfo(QStringLiteral("A"), QIcon(), 1)}, screen, page),
     };
     WaitingDialog::instance(screen, page);
     WaitingDialog::deleteInstance();
