@@ -114,7 +114,12 @@ void RollLabel::resizeEvent(QResizeEvent* event) { QWidget::resizeEvent(event); 
 void RollLabel::changeEvent(QEvent* event)
 {
     QLabel::changeEvent(event);
-    if (event->type() == QEvent::FontChange && m_width >= 1 && !m_sourceText.isEmpty() && pixmap() == nullptr)
+#if QT_VERSION >= QT_VERSION_CHECK(5, 15, 0)
+    bool const showsPixmap = !pixmap(Qt::ReturnByValue).isNull();
+#else
+    bool const showsPixmap = pixmap() != nullptr;
+#endif
+    if (event->type() == QEvent::FontChange && m_width >= 1 && !m_sourceText.isEmpty() && !showsPixmap)
         setTextLabel(m_sourceText, m_rollRequested);
 }
 
