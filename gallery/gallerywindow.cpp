@@ -161,8 +161,13 @@ bool KnobKeyboard::eventFilter(QObject* watched, QEvent* event)
     if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease)
         return QObject::eventFilter(watched, event);
     auto* key = static_cast<QKeyEvent*>(event);
+    // Without a window manager (a kiosk session) the window may never be made the
+    // active one: the application then has no focus widget, and keys go to the
+    // window's own focus widget (or the window). Take them where they arrive.
     QWidget* focus = QApplication::focusWidget();
-    if (!focus || watched != focus)
+    if (!focus)
+        focus = m_window->focusWidget() ? m_window->focusWidget() : m_window;
+    if (watched != focus)
         return QObject::eventFilter(watched, event);
 
     switch (key->key()) {

@@ -126,6 +126,8 @@ int main(int argc, char** argv)
     KnobKeyboard keyboard(&window, context);
     app.installEventFilter(&keyboard);
     window.show();
+    // A kiosk session has no window manager to activate the window: ask for it.
+    window.activateWindow();
     window.showPage(qMax(0, parser.value(pageOpt).toInt() - 1));
     return app.exec();
 }

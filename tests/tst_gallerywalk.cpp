@@ -19,6 +19,7 @@ class TestGalleryWalk : public QObject
 private slots:
     void everyRowEditsAndGivesTheKnobBack();
     void knobWalksTheRows();
+    void keysWorkInAnInactiveWindow();
     // Instruments page
     void instrumentsPageWorksWithTheKnob();
 };
@@ -140,6 +141,40 @@ void TestGalleryWalk::instrumentsPageWorksWithTheKnob()
     QVERIFY(rects.at(1).first);
     QCOMPARE(cropped.x + cropped.width, picture.x + picture.width);
     QVERIFY(cropped.x > 0);
+}
+
+void TestGalleryWalk::keysWorkInAnInactiveWindow()
+{
+    // A kiosk session without a window manager never activates the window: keys
+    // still arrive, at the window's focus widget, and must work as on the panel.
+    GalleryHostApi host;
+    GalleryContext context;
+    context.host = &host;
+    GalleryWindow window(context, QStringLiteral("lcdwidgets 0.1.0"));
+    KnobKeyboard keyboard(&window, context);
+    qApp->installEventFilter(&keyboard);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QApplication::setActiveWindow(nullptr);
+    QCOMPARE(QApplication::focusWidget(), static_cast<QWidget*>(nullptr));
+    window.showPage(0);
+    QWidget* target = window.focusWidget();
+    QVERIFY(target);
+
+    auto send = [&](int code) {
+        QKeyEvent press(QEvent::KeyPress, code, Qt::NoModifier);
+        QApplication::sendEvent(window.focusWidget(), &press);
+    };
+    send(Qt::Key_Right); // next page
+    QCOMPARE(window.currentPage(), 1);
+    send(Qt::Key_Left);
+    QCOMPARE(window.currentPage(), 0);
+    send(Qt::Key_PageDown); // a fast turn walks the rows like a slow one
+    QCOMPARE(window.page(0)->currentIndex(), 1);
+    int const tbar = host.keyboard().position();
+    send(Qt::Key_BracketRight);
+    QVERIFY(host.keyboard().position() > tbar);
+    qApp->removeEventFilter(&keyboard);
 }
 
 QTEST_MAIN(TestGalleryWalk)
