@@ -380,6 +380,10 @@ void TestLineEdits::titledWidgets()
     QCOMPARE(gainChanged.count(), 3);
     Knob::back(gain);
     QCOMPARE(gainFinished.count(), 1);
+    // The frame hands its focus to the editor: the end of the edit must not land
+    // there and start a new one.
+    QVERIFY(!gain->editor()->isEditing());
+    QVERIFY(page.hasFocus());
     // An empty unit hides its label, a unit shows it again.
     gain->setUnit(QString());
     QLabel* unit = nullptr;
@@ -397,6 +401,8 @@ void TestLineEdits::titledWidgets()
     name->setText(QStringLiteral("9990"));
     Knob::press(name);
     QCOMPARE(finished.count(), 1);
+    QCOMPARE(started.count(), 1);
+    QVERIFY(page.hasFocus());
     QCOMPARE(finished.first().first().toString(), QStringLiteral("9990"));
 }
 

@@ -2,7 +2,7 @@
 
 #include "knoblevel.h"
 #include "lcdspinbox.h"
-#include "spinrow_p.h"
+#include "titlededitor_p.h"
 #include "stylehelper.h"
 
 #include <QDebug>
@@ -179,12 +179,7 @@ void NDoubleLineEdit::finishEdit()
     deselect();
     setStyleProperty(this, "lineEditEditing", false);
     emit signalEditFinished();
-    if (hasFocus()) {
-        if (parentWidget())
-            returnFocusToParent(this);
-        else
-            clearFocus();
-    }
+    handFocusBack(this);
 }
 
 void NDoubleLineEdit::keyPressEvent(QKeyEvent* event)

@@ -13,7 +13,8 @@
 //   Escape           ends the edit the same way: the value reached stays.
 // The edit begins with the focus (signalEditStarted) and ends with the keys above
 // or the loss of the focus (signalEditFinished, once per edit). An edit ended by a
-// key hands the focus to the parent widget unless a slot has moved it already.
+// key hands the focus to the nearest ancestor without a focus proxy (one that
+// keeps it) unless a slot has moved it already.
 //
 // Bad input is refused and logged at warning level, the value is left as it was:
 //   "[NDoubleLineEdit] setRange: <min>..<max> is not a range, ignored"

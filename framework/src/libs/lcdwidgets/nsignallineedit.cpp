@@ -1,6 +1,6 @@
 #include "nsignallineedit.h"
 
-#include "spinrow_p.h"
+#include "titlededitor_p.h"
 #include "stylehelper.h"
 
 #include <QDebug>
@@ -70,12 +70,7 @@ void NSignalLineEdit::finishEdit()
     d->editing = false;
     setStyleProperty(this, "lineEditEditing", false);
     emit signalEditFinished(text());
-    if (hasFocus()) {
-        if (parentWidget())
-            returnFocusToParent(this);
-        else
-            clearFocus();
-    }
+    handFocusBack(this);
 }
 
 void NSignalLineEdit::keyPressEvent(QKeyEvent* event)

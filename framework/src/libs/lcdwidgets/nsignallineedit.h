@@ -12,7 +12,8 @@
 //                                  Escape, or the loss of the focus; once per edit
 //   signalFocusOut()               the focus has gone
 // The text reached stays (Escape does not restore the old text). An edit ended by a
-// key hands the focus to the parent widget unless a slot has moved it already.
+// key hands the focus to the nearest ancestor without a focus proxy (one that
+// keeps it) unless a slot has moved it already.
 // Knob turns (Up / Down) are swallowed while editing and go to the page otherwise.
 //
 // Bad input: setMaxLength with a length below 1 is refused and logged at warning

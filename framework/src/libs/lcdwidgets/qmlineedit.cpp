@@ -1,7 +1,7 @@
 #include "qmlineedit.h"
 
 #include "knoblevel.h"
-#include "spinrow_p.h"
+#include "titlededitor_p.h"
 #include "stylehelper.h"
 
 #include <QDebug>
@@ -140,12 +140,7 @@ void QMLineEdit::finishEdit()
     deselect();
     setStyleProperty(this, "lineEditEditing", false);
     emit signalEditFinished(text());
-    if (hasFocus()) {
-        if (parentWidget())
-            returnFocusToParent(this);
-        else
-            clearFocus();
-    }
+    handFocusBack(this);
 }
 
 void QMLineEdit::keyPressEvent(QKeyEvent* event)

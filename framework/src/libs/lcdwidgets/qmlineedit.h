@@ -11,7 +11,8 @@
 // The edit begins with the focus (the cursor on the first character) and ends with
 // the keys above or the loss of the focus. Every change is reported at once with
 // signalTextChanged(), the end with signalEditFinished(text), once per edit. An edit
-// ended by a key hands the focus to the parent widget unless a slot moved it already.
+// ended by a key hands the focus to the nearest ancestor without a focus proxy
+// unless a slot moved it already.
 //
 // The default set is the space, "A".."Z", "a".."z", "0".."9" and "-_.". A character
 // of the text that is not in the set is replaced by the set's first (Up) or last

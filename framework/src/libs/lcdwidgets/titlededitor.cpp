@@ -26,6 +26,19 @@ void buildTitledEditor(QFrame* frame, QWidget* editor, QLabel*& title, QLabel*& 
     frame->setFocusProxy(editor);
 }
 
+void handFocusBack(QWidget* editor)
+{
+    if (!editor->hasFocus())
+        return;
+    QWidget* target = editor->parentWidget();
+    while (target && target->focusProxy())
+        target = target->parentWidget();
+    if (target)
+        target->setFocus(Qt::OtherFocusReason);
+    else
+        editor->clearFocus();
+}
+
 void setUnitText(QLabel* unit, QString const& text)
 {
     unit->setText(text);
