@@ -89,6 +89,14 @@ void TestMultiSpin::multiEscapeEndsAtOnce()
     row->closeEditValue();
     QCOMPARE(rec.log, QStringList({"started", "close", "finished"}));
     QVERIFY(page.hasFocus());
+    // An edit whose focus the page took away can be started again.
+    rec.log.clear();
+    row->editValue();
+    page.setFocus();
+    row->editValue();
+    QCOMPARE(rec.log, QStringList({"started", "started"}));
+    QVERIFY(row->spinBox(0)->hasFocus());
+    Knob::back(row);
     // A disabled row announces nothing.
     rec.log.clear();
     row->setContentDisabled(true);
@@ -212,6 +220,17 @@ void TestMultiSpin::multipleWalkAndItemEdit()
     QCOMPARE(row->currentIndex(), -1);
     QCOMPARE(row->item(2)->property("multipleItemCurrent"), QVariant(false));
     QVERIFY(page.pressed.isEmpty());
+    // An edit whose focus the page took away can be started again.
+    rec.log.clear();
+    row->editValue();
+    Knob::press(row);
+    page.setFocus();
+    row->editValue();
+    QCOMPARE(rec.log, QStringList({"started", "started"}));
+    QVERIFY(row->hasFocus());
+    QVERIFY(!row->isItemEditing());
+    QCOMPARE(row->currentIndex(), 0);
+    Knob::back(row);
 }
 
 void TestMultiSpin::multipleItemsKeepTheirOwnRules()

@@ -4,6 +4,7 @@
 #include "spinrow_p.h"
 #include "stylehelper.h"
 
+#include <QApplication>
 #include <QDebug>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -215,8 +216,12 @@ void MultipleSpinBox::setCurrent(int index)
 
 void MultipleSpinBox::editValue()
 {
-    if (d->walking)
+    QWidget* focus = QApplication::focusWidget();
+    if (d->walking && focus && (focus == this || isAncestorOf(focus)))
         return;
+    // An edit whose focus was taken away starts afresh.
+    d->walking = false;
+    d->itemEditing = false;
     if (d->items.isEmpty()) {
         qWarning().noquote() << QStringLiteral("[MultipleSpinBox] editValue: no items");
         return;

@@ -120,7 +120,7 @@ QVariant MultiSpinBox::getLabelValue() { return QVariant(valueList()); }
 
 void MultiSpinBox::editValue()
 {
-    if (d->fields->current() >= 0)
+    if (d->fields->hasKnob())
         return;
     if (!canEdit(d->fields->box(0)) || !d->fields->start())
         return;

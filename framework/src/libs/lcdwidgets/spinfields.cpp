@@ -102,6 +102,16 @@ void SpinFields::focusField(int index)
     m_boxes.at(index)->setFocus(Qt::TabFocusReason);
 }
 
+bool SpinFields::hasKnob() const
+{
+    if (m_current < 0)
+        return false;
+    for (NQSpinBox* b : m_boxes)
+        if (b->hasFocus())
+            return true;
+    return false;
+}
+
 bool SpinFields::start()
 {
     if (m_boxes.isEmpty() || !m_boxes.first()->isEnabled() || m_boxes.first()->isHidden())

@@ -35,6 +35,9 @@ public:
     void setFontSize(int size);
     void setEnabled(bool enabled);
 
+    // Whether an edit runs and one of the fields still has the focus (an edit whose
+    // focus was taken away can be started afresh).
+    bool hasKnob() const;
     // Starts the edit on the first field; false when there is none to edit.
     bool start();
     // Ends the edit: the row's parent takes the focus back, then `finished` runs.

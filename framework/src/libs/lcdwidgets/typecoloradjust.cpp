@@ -117,7 +117,7 @@ QVariant TypeColorAdjust::getLabelValue() { return QVariant(d->color); }
 
 void TypeColorAdjust::editValue()
 {
-    if (d->fields->current() >= 0)
+    if (d->fields->hasKnob())
         return;
     if (!canEdit(d->fields->box(0)) || !d->fields->start())
         return;
