@@ -6,6 +6,7 @@ QList<PageInfo> galleryPages()
         {QStringLiteral("items"), buildItemsPage},
         {QStringLiteral("display"), buildDisplayPage},
         {QStringLiteral("numbers"), buildNumbersPage},
+        {QStringLiteral("editors"), buildEditorsPage},
         {QStringLiteral("lists"), buildListsPage},
         // Instruments
         {QStringLiteral("instruments"), buildInstrumentsPage},

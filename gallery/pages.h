@@ -20,6 +20,7 @@ QList<PageInfo> galleryPages();
 ItemPage* buildItemsPage(GalleryContext& context);
 ItemPage* buildDisplayPage(GalleryContext& context);
 ItemPage* buildNumbersPage(GalleryContext& context);
+ItemPage* buildEditorsPage(GalleryContext& context); // line edits, multi-value, colour and progress rows
 ItemPage* buildListsPage(GalleryContext& context);
 // Instruments: dials and the crop drawing
 ItemPage* buildInstrumentsPage(GalleryContext& context);

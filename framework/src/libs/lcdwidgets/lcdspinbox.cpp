@@ -311,18 +311,20 @@ NQDoubleSpinBox::NQDoubleSpinBox(SuffixType suffix, QuitStrategy quit, QWidget* 
 
 NQDoubleSpinBox::~NQDoubleSpinBox() = default;
 
-double NQDoubleSpinBox::getStep(float level) const
+double NQDoubleSpinBox::getStep(float level) const { return stepFor(level, minimum(), maximum(), singleStep()); }
+
+double NQDoubleSpinBox::stepFor(float level, double minimum, double maximum, double singleStep)
 {
     if (isUnitLevel(level))
-        return singleStep();
-    double const span = qMin(maximum() - minimum(), static_cast<double>(kSpanCap));
-    double step = qMax(static_cast<double>(level) * span, 1.0) * singleStep();
-    if (step > maximum())
-        step = maximum();
+        return singleStep;
+    double const span = qMin(maximum - minimum, static_cast<double>(kSpanCap));
+    double step = qMax(static_cast<double>(level) * span, 1.0) * singleStep;
+    if (step > maximum)
+        step = maximum;
     // The cap is the maximum itself: at a maximum of 0 or below (a -60..0 dB range)
     // it would stall the knob or turn it backwards. One single step then.
     if (step <= 0.0)
-        step = singleStep();
+        step = singleStep;
     return step;
 }
 

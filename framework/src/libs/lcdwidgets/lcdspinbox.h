@@ -76,6 +76,8 @@ public:
     ~NQDoubleSpinBox() override;
 
     double getStep(float level) const;
+    // The same rule for any floating-point range (shared by the line edits).
+    static double stepFor(float level, double minimum, double maximum, double singleStep);
     void setSelection();
     void unSelection() const;
     bool isValid(double value) const;
