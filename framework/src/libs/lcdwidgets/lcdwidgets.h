@@ -100,3 +100,12 @@
 #include "waitingdialog.h"
 #include "blockdialog.h"
 #include "customreminderdialog.h"
+// Layers, preview and factory test
+#include "typezorderitemmore.h"
+#include "typeframetag.h"
+#include "typegraphicwidget.h"
+#include "previewwidget.h"
+#include "typepreviewwidget.h"
+#include "factorytestleftframe.h"
+#include "factorytestrightframe.h"
+#include "factorytestframe.h"
