@@ -102,6 +102,7 @@ struct LCDWIDGETS_HIDDEN FactoryTestRightFrame::Impl
     int tbar = -1;
     int tbarMin = -1;
     int tbarMax = -1;
+    bool haveReading = false;
     int fill = 0;
     bool lastSeen = false;
     bool full = false;
@@ -162,6 +163,7 @@ void FactoryTestRightFrame::startTest(int test)
     d->up = d->down = 0;
     d->lastLevel = 1.0f;
     d->tbar = d->tbarMin = d->tbarMax = -1;
+    d->haveReading = false;
     d->fill = 0;
     d->verdict = false;
     d->verdictPass = true;
@@ -238,8 +240,9 @@ int FactoryTestRightFrame::readTBar()
     }
     int const value = d->keyboard->tbarRead().second;
     d->tbar = value;
-    d->tbarMin = d->tbarMin < 0 ? value : qMin(d->tbarMin, value);
-    d->tbarMax = qMax(d->tbarMax, value);
+    d->tbarMin = d->haveReading ? qMin(d->tbarMin, value) : value;
+    d->tbarMax = d->haveReading ? qMax(d->tbarMax, value) : value;
+    d->haveReading = true;
     return value;
 }
 
@@ -281,7 +284,7 @@ void FactoryTestRightFrame::pollTBar()
         return;
     int const before = d->tbar;
     readTBar();
-    if (d->tbarMin >= 0 && d->tbarMin <= d->low && d->tbarMax >= d->high) {
+    if (d->haveReading && d->tbarMin <= d->low && d->tbarMax >= d->high) {
         finishTest(FactoryTestResult::Passed);
         return;
     }
@@ -424,7 +427,7 @@ void FactoryTestRightFrame::keyPressEvent(QKeyEvent* event)
         if (key == Qt::Key_Return || key == Qt::Key_Enter) {
             pollTBar();
         } else if (key == Qt::Key_Escape) {
-            bool const done = d->tbarMin >= 0 && d->tbarMin <= d->low && d->tbarMax >= d->high;
+            bool const done = d->haveReading && d->tbarMin <= d->low && d->tbarMax >= d->high;
             finishTest(done ? FactoryTestResult::Passed : FactoryTestResult::Failed);
         } else if (key != Qt::Key_Up && key != Qt::Key_Down) {
             event->ignore();
@@ -433,6 +436,13 @@ void FactoryTestRightFrame::keyPressEvent(QKeyEvent* event)
     default:
         event->ignore();
     }
+}
+
+void FactoryTestRightFrame::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        refresh();
+    QFrame::changeEvent(event);
 }
 
 void FactoryTestRightFrame::paintEvent(QPaintEvent* event)

@@ -60,7 +60,7 @@ public:
     void setTBarRange(int low, int high);
     // Reads the T-bar now: the position, or -1 without a proxy.
     int readTBar();
-    int tbarMinimum() const; // -1 before the first reading
+    int tbarMinimum() const; // -1 before the first reading of a run
     int tbarMaximum() const;
     // Colour and pattern steps: the index shown (0-based) and their number.
     int fillIndex() const;
@@ -78,6 +78,7 @@ signals:
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     void refresh();
