@@ -269,6 +269,20 @@ void TestFactoryTest::tbarTestReadsProxy()
     int const reads = host.proxy.reads;
     QTest::qWait(120);
     QCOMPARE(host.proxy.reads, reads);
+
+    // A T-bar reporting around zero: readings below zero count like any other.
+    p.right()->setTBarRange(-100, 100);
+    host.proxy.position = -40;
+    Knob::press(&p.window); // the same test again
+    QCOMPARE(p.right()->tbarMinimum(), -40);
+    host.proxy.position = -120;
+    QTRY_COMPARE(p.right()->tbarMinimum(), -120);
+    host.proxy.position = -60;
+    QTest::qWait(80);
+    QCOMPARE(p.right()->tbarMinimum(), -120);
+    QCOMPARE(p.frame->isTestRunning(), true);
+    Knob::back(&p.window);
+    QCOMPARE(p.frame->result(4), FactoryTestResult::Failed);
 }
 
 void TestFactoryTest::tbarTestWithoutProxy()

@@ -171,7 +171,8 @@ void FactoryTestRightFrame::startTest(int test)
         d->keyboard = dov::api::get().host ? static_cast<KeyboardProxy*>(dov::api::object(
                                                  KeyboardProxy::constants::OBJ_KEYBOARD_EVENT_NAME))
                                            : nullptr;
-        if (readTBar() >= 0)
+        readTBar();
+        if (d->keyboard)
             d->poll->start();
     }
     bool const fills = test == int(FactoryTestItem::ScreenColours) || test == int(FactoryTestItem::ScreenPatterns);
