@@ -58,7 +58,8 @@ public:
     int knobUpCount() const;
     int knobDownCount() const;
     void setTBarRange(int low, int high);
-    // Reads the T-bar now: the position, or -1 without a proxy.
+    // Reads the T-bar now: the position, or -1 without a proxy (logged; a T-bar may
+    // read -1 too, so the test asks the proxy, not the value).
     int readTBar();
     int tbarMinimum() const; // -1 before the first reading of a run
     int tbarMaximum() const;
