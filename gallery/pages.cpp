@@ -14,6 +14,8 @@ QList<PageInfo> galleryPages()
         {QStringLiteral("network"), buildNetworkPage},
         {QStringLiteral("switchers"), buildSwitchersPage},
         {QStringLiteral("tbar"), buildTBarPage},
+        {QStringLiteral("layers"), buildLayersPage},
+        {QStringLiteral("factorytest"), buildFactoryTestPage},
         {QStringLiteral("choices"), buildChoicesPage},
         {QStringLiteral("dialogs"), buildDialogsPage},
     };

@@ -28,6 +28,8 @@ ItemPage* buildInstrumentsPage(GalleryContext& context);
 ItemPage* buildNetworkPage(GalleryContext& context);
 ItemPage* buildSwitchersPage(GalleryContext& context);
 ItemPage* buildTBarPage(GalleryContext& context);
+ItemPage* buildLayersPage(GalleryContext& context);      // layer rows, preview, tags, pictures
+ItemPage* buildFactoryTestPage(GalleryContext& context); // the factory test page
 ItemPage* buildChoicesPage(GalleryContext& context); // switches, button rows, effect chooser
 ItemPage* buildDialogsPage(GalleryContext& context); // dialogs (page_dialogs.cpp)
 

@@ -22,6 +22,9 @@ private slots:
     void keysWorkInAnInactiveWindow();
     // Instruments page
     void instrumentsPageWorksWithTheKnob();
+    // Layers and factory test pages
+    void layersPageMovesLayersWithTheKnob();
+    void factoryTestPageRunsATest();
 };
 
 void TestGalleryWalk::everyRowEditsAndGivesTheKnobBack()
@@ -141,6 +144,104 @@ void TestGalleryWalk::instrumentsPageWorksWithTheKnob()
     QVERIFY(rects.at(1).first);
     QCOMPARE(cropped.x + cropped.width, picture.x + picture.width);
     QVERIFY(cropped.x > 0);
+}
+
+// ---- Layers page: a layer moved to the front, the preview and the other rows follow ----
+namespace {
+int pageIndex(GalleryWindow& window, QString const& id)
+{
+    for (int p = 0; p < window.pageCount(); ++p)
+        if (window.pageId(p) == id)
+            return p;
+    return -1;
+}
+} // namespace
+
+void TestGalleryWalk::layersPageMovesLayersWithTheKnob()
+{
+    GalleryHostApi host;
+    GalleryContext context;
+    context.host = &host;
+    GalleryWindow window(context, QStringLiteral("lcdwidgets 0.1.0"));
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    int const index = pageIndex(window, QStringLiteral("layers"));
+    QVERIFY(index >= 0);
+    window.showPage(index);
+    ItemPage* page = window.page(index);
+    page->activate();
+
+    auto* previewRow = qobject_cast<LCD::Widget::TypePreviewWidget*>(page->itemAt(0));
+    QVERIFY(previewRow);
+    LCD::Widget::PreviewWidget* preview = previewRow->preview();
+    LCD::Widget::TypeZOrderItemMore* camera1 = nullptr;
+    LCD::Widget::TypeZOrderItemMore* logo = nullptr;
+    int camera1Index = -1;
+    for (int i = 0; i < page->count(); ++i)
+        if (auto* row = qobject_cast<LCD::Widget::TypeZOrderItemMore*>(page->itemAt(i))) {
+            if (row->itemTitle() == QLatin1String("Camera 1")) {
+                camera1 = row;
+                camera1Index = i;
+            } else if (row->itemTitle() == QLatin1String("Logo")) {
+                logo = row;
+            }
+        }
+    QVERIFY(camera1 && logo);
+    QCOMPARE(camera1->zOrder(), 2);
+
+    page->setCurrentIndex(camera1Index);
+    Knob::press(page->list());
+    QCOMPARE(preview->currentLayer(), 1);
+    Knob::turn(QApplication::focusWidget(), 1, 5.0); // a fast turn: to the front
+    QCOMPARE(camera1->zOrder(), 4);
+    QCOMPARE(preview->layerText(3), QStringLiteral("Camera 1"));
+    QCOMPARE(preview->currentLayer(), 3);
+    QCOMPARE(logo->zOrder(), 3);
+    Knob::back(QApplication::focusWidget());
+    QCOMPARE(QApplication::focusWidget(), page->list());
+
+    // The X row moves the current layer; the preview follows live.
+    page->setCurrentIndex(camera1Index + 2);
+    auto* x = page->itemAt(camera1Index + 2);
+    QVERIFY(x && x->itemTitle().contains(QLatin1String("X")));
+    Knob::press(page->list());
+    Knob::turn(QApplication::focusWidget(), 3);
+    QCOMPARE(int(preview->layerRect(3).x()), x->getLabelValue().toInt());
+    QVERIFY(int(preview->layerRect(3).x()) != 120);
+    Knob::back(QApplication::focusWidget());
+    QVERIFY(!page->isEditing());
+}
+
+// ---- Factory test page: the knob test run from the list, the mark set ----
+void TestGalleryWalk::factoryTestPageRunsATest()
+{
+    GalleryHostApi host;
+    GalleryContext context;
+    context.host = &host;
+    GalleryWindow window(context, QStringLiteral("lcdwidgets 0.1.0"));
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    int const index = pageIndex(window, QStringLiteral("factorytest"));
+    QVERIFY(index >= 0);
+    window.showPage(index);
+    ItemPage* page = window.page(index);
+    page->activate();
+    page->setCurrentIndex(0);
+    auto* frame = page->itemAt(0)->findChild<LCD::Widget::FactoryTestFrame*>();
+    QVERIFY(frame);
+
+    Knob::press(page->list());
+    QCOMPARE(QApplication::focusWidget(), frame->leftFrame());
+    Knob::turn(QApplication::focusWidget(), -1); // Down: the knob test
+    Knob::press(QApplication::focusWidget());
+    QCOMPARE(QApplication::focusWidget(), frame->rightFrame());
+    Knob::turn(QApplication::focusWidget(), 5);
+    Knob::turn(QApplication::focusWidget(), -5);
+    QCOMPARE(frame->result(int(LCD::Widget::FactoryTestItem::Knob)), LCD::Widget::FactoryTestResult::Passed);
+    QCOMPARE(QApplication::focusWidget(), frame->leftFrame());
+    Knob::back(QApplication::focusWidget());
+    QCOMPARE(QApplication::focusWidget(), page->list());
+    QVERIFY(!page->isEditing());
 }
 
 void TestGalleryWalk::keysWorkInAnInactiveWindow()

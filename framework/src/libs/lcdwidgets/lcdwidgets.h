@@ -110,3 +110,12 @@
 #include "multiplespinbox.h"
 #include "typecoloradjust.h"
 #include "typeintprogressbar.h"
+// Layers, preview and factory test
+#include "typezorderitemmore.h"
+#include "typeframetag.h"
+#include "typegraphicwidget.h"
+#include "previewwidget.h"
+#include "typepreviewwidget.h"
+#include "factorytestleftframe.h"
+#include "factorytestrightframe.h"
+#include "factorytestframe.h"

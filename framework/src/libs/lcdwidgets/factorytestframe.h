@@ -1,0 +1,52 @@
+// The factory test page: the list of tests on the left (FactoryTestLeftFrame, a third
+// of the width) and the running test on the right (FactoryTestRightFrame). The list has
+// the knob; its press starts the chosen test and hands the knob to the right frame;
+// when the test ends its result goes to the list's mark and summary and the knob comes
+// back to the list. Colour and pattern fills take the whole page (the list is hidden
+// meanwhile). Escape on the list is not used: it goes on to the host's page.
+//
+// Signals: signalTestStarted(test), signalTestFinished(test, result) (result as
+// FactoryTestResult; NotTested when left without a verdict, which keeps the old mark),
+// signalSummaryChanged(passed, failed, untested).
+// Bad input: startTest with a bad index is refused with
+// "[FactoryTestFrame] test index out of range:" N (warning).
+// Theme: the page is "factoryTestFrame" (object name).
+#pragma once
+
+#include "factorytestleftframe.h"
+#include "factorytestrightframe.h"
+#include "lcdwidgets_global.h"
+
+#include <QFrame>
+#include <memory>
+
+namespace LCD {
+namespace Widget {
+
+class LCDWIDGETS_EXPORT FactoryTestFrame : public QFrame
+{
+    Q_OBJECT
+public:
+    explicit FactoryTestFrame(QWidget* parent = nullptr);
+    ~FactoryTestFrame() override;
+
+    FactoryTestLeftFrame* leftFrame() const;
+    FactoryTestRightFrame* rightFrame() const;
+
+    void startTest(int test);
+    bool isTestRunning() const;
+    FactoryTestResult result(int test) const;
+    void resetResults();
+
+signals:
+    void signalTestStarted(int test);
+    void signalTestFinished(int test, int result);
+    void signalSummaryChanged(int passed, int failed, int untested);
+
+private:
+    struct Impl;
+    std::unique_ptr<Impl> d;
+};
+
+} // namespace Widget
+} // namespace LCD
