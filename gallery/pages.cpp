@@ -14,6 +14,7 @@ QList<PageInfo> galleryPages()
         {QStringLiteral("switchers"), buildSwitchersPage},
         {QStringLiteral("tbar"), buildTBarPage},
         {QStringLiteral("choices"), buildChoicesPage},
+        {QStringLiteral("pictures"), buildPicturesPage},
         {QStringLiteral("dialogs"), buildDialogsPage},
     };
 }

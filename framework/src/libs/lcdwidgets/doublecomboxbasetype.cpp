@@ -19,15 +19,18 @@ struct LCDWIDGETS_HIDDEN DoubleComboxBaseType::Impl
     int stage = 0;
     // signalCloseEditStatus seen from the open choice since it opened.
     bool backSeen = false;
+    // signalEditStarted seen from the choice being opened.
+    bool startSeen = false;
 
     explicit Impl(DoubleComboxBaseType* owner) : q(owner) {}
 
     bool open(StringComboxBaseType* choice, int which)
     {
         backSeen = false;
+        startSeen = false;
         stage = which; // set first: the choice may end at once
         choice->editValue();
-        if (choice->isEditing())
+        if (startSeen)
             return true;
         stage = 0;
         return false;
@@ -88,8 +91,8 @@ void DoubleComboxBaseType::setChoices(StringComboxBaseType* first, StringComboxB
         if (c->layout())
             c->layout()->setContentsMargins(0, 0, 0, 0);
         connect(c, &CommonItemType::signalCloseEditStatus, this, [this] { d->backSeen = true; });
+        connect(c, &CommonItemType::signalEditStarted, this, [this] { d->startSeen = true; });
         connect(c, &CommonItemType::signalEditFinished, this, [this, c] { d->choiceEnded(c); });
-        connect(c, &StringComboxBaseType::signalCurrentIndexChanged, this, [this] { emitPairValue(); });
     }
     layout->addWidget(first);
     layout->addWidget(d->separator);
@@ -105,6 +108,9 @@ void DoubleComboxBaseType::setChoices(StringComboxBaseType* first, StringComboxB
             &DoubleComboxBaseType::signalSecondCurrentIndexChanged);
     connect(second, &StringComboxBaseType::signalCurrentTextChanged, this,
             &DoubleComboxBaseType::signalSecondCurrentTextChanged);
+    // After the choice's own signals.
+    for (StringComboxBaseType* c : {first, second})
+        connect(c, &StringComboxBaseType::signalCurrentIndexChanged, this, [this] { emitPairValue(); });
 }
 
 bool DoubleComboxBaseType::choiceWentBack(StringComboxBaseType*) const { return d->backSeen; }
@@ -178,7 +184,8 @@ void DoubleComboxBaseType::editValue()
         emit signalEditStarted();
         return;
     }
-    qDebug().noquote() << "[DoubleComboxBaseType]" << itemTitle() << ": nothing to choose from";
+    qDebug().noquote() << QStringLiteral("[%1] %2: nothing to choose from")
+                              .arg(QString::fromLatin1(metaObject()->className()).section(QStringLiteral("::"), -1), itemTitle());
 }
 
 void DoubleComboxBaseType::closeEditValue()

@@ -71,7 +71,7 @@ struct LCDWIDGETS_HIDDEN PictureCheckWidget::Impl
     {
         int const i = indexOf(value);
         if (i < 0) {
-            qDebug().noquote() << "[PictureCheckWidget]" << function << ": no picture with value" << value;
+            qDebug().noquote() << QStringLiteral("[PictureCheckWidget] %1: no picture with value %2").arg(function).arg(value);
             return nullptr;
         }
         return buttons[i];

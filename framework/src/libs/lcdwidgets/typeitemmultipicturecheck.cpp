@@ -65,8 +65,10 @@ QVector<int> TypeItemMultiPictureCheck::getCurrentValue() const { return d->grid
 
 void TypeItemMultiPictureCheck::editValue()
 {
-    if (!canEdit(d->grid) || d->grid->count() == 0) {
-        qDebug().noquote() << "[TypeItemMultiPictureCheck]" << itemTitle() << ": nothing to choose from";
+    if (!canEdit(d->grid))
+        return;
+    if (d->grid->count() == 0) {
+        qDebug().noquote() << QStringLiteral("[TypeItemMultiPictureCheck] %1: no pictures to choose from").arg(itemTitle());
         return;
     }
     d->grid->setFocus(Qt::OtherFocusReason);

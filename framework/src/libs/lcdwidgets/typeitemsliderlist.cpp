@@ -85,6 +85,8 @@ struct LCDWIDGETS_HIDDEN TypeItemSliderList::Impl
         bool const was = editing;
         editing = false;
         q->setEdit(false);
+        if (was)
+            setStyleProperty(slider, "sliderListStatus", QStringLiteral("normal"));
         returnFocusToParent(q);
         if (back)
             emit q->signalCloseEditStatus();
@@ -98,6 +100,7 @@ TypeItemSliderList::TypeItemSliderList(QWidget* parent) : StringComboxBaseType(p
     setRightIconButtonHide(true);
     d->slider = new QSlider(Qt::Horizontal, dynamicFrame());
     d->slider->setProperty("isSliderList", true);
+    d->slider->setProperty("sliderListStatus", QStringLiteral("normal"));
     d->slider->setFocusPolicy(Qt::StrongFocus);
     d->slider->setRange(0, 0);
     d->slider->setPageStep(1);
@@ -286,12 +289,19 @@ int TypeItemSliderList::visableCount() const
 
 void TypeItemSliderList::editValue()
 {
-    if (!d->editable || !canEdit(d->slider) || visableCount() < 2) {
-        qDebug().noquote() << "[TypeItemSliderList]" << itemTitle() << ": nothing to choose from";
+    if (!d->editable) {
+        qDebug().noquote() << QStringLiteral("[TypeItemSliderList] %1: the choice is fixed").arg(itemTitle());
+        return;
+    }
+    if (!canEdit(d->slider))
+        return;
+    if (visableCount() < 2) {
+        qDebug().noquote() << QStringLiteral("[TypeItemSliderList] %1: nothing to choose from").arg(itemTitle());
         return;
     }
     d->slider->setFocus(Qt::OtherFocusReason);
     d->editing = true;
+    setStyleProperty(d->slider, "sliderListStatus", QStringLiteral("edit"));
     setEdit(true);
     emit signalEditStarted();
 }
@@ -300,6 +310,7 @@ void TypeItemSliderList::closeEditValue()
 {
     if (d->editing) {
         d->editing = false;
+        setStyleProperty(d->slider, "sliderListStatus", QStringLiteral("normal"));
         setEdit(false);
         returnFocusToParent(this);
     }

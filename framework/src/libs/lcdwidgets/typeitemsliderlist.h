@@ -18,6 +18,8 @@
 // text, an invalid QVariant or -1):
 //   "[TypeItemSliderList] <function>: index N out of range (count M)"
 //   "[TypeItemSliderList] <function>: no entry holds <data or text>"
+//   "[TypeItemSliderList] <title>: nothing to choose from" (fewer than two visible entries)
+//   "[TypeItemSliderList] <title>: the choice is fixed" (after setEditable(false))
 //
 // Theme: the slider has "isSliderList" = true, the text "isSliderListText" = true;
 // a disabled row sets "Gray" = true on the text.
