@@ -34,6 +34,7 @@ struct LCDWIDGETS_HIDDEN NQListWidget::Impl
             QObject::connect(timer, &QTimer::timeout, q, [this] { scrolling->advance(); });
         }
         scrolling->setScrollingRow(q->currentRow());
+        q->viewport()->update(); // the row's text is measured as it is painted
         timer->start();
     }
     void stopScroll()
