@@ -8,7 +8,9 @@
 
 #include <lcdwidgets.h>
 
+#include <QApplication>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QPainter>
 
 using namespace LCD::Widget;
@@ -75,7 +77,7 @@ public:
     W* w;
 };
 
-void addPictureRows(ItemPage* page)
+TypeItemMultiPictureCheck* addPictureRows(ItemPage* page)
 {
     page->addSection(QObject::tr("Pictures (press, turn, press flips a mark, Esc)"));
     auto* layouts = new TypeItemMultiPictureCheck(page->list());
@@ -99,9 +101,10 @@ void addPictureRows(ItemPage* page)
     QObject::connect(layouts, &TypeItemMultiPictureCheck::signalPictureCheckChanged, page, [page](int value, bool on) {
         report(page, QObject::tr("Layout %1 %2").arg(value).arg(on ? QObject::tr("checked") : QObject::tr("unchecked")));
     });
+    return layouts;
 }
 
-void addPairRows(ItemPage* page, GalleryContext& context)
+TypeInputBackupCombox* addPairRows(ItemPage* page, GalleryContext& context)
 {
     page->addSection(QObject::tr("Paired choices (press: first, press: second, Esc ends)"));
     auto* aux = new TypeItemDoubleCombox(page->list());
@@ -140,6 +143,7 @@ void addPairRows(ItemPage* page, GalleryContext& context)
     key->setCurrentIndex(2);
     key->setSecondCurrentIndex(3);
     page->addItem(key);
+    return backup;
 }
 
 void addListRows(ItemPage* page)
@@ -192,9 +196,35 @@ void addListRows(ItemPage* page)
 ItemPage* buildPicturesPage(GalleryContext& context)
 {
     auto* page = new ItemPage(QObject::tr("Lists and pictures"));
-    addPictureRows(page);
-    addPairRows(page, context);
+    TypeItemMultiPictureCheck* layouts = addPictureRows(page);
+    TypeInputBackupCombox* backup = addPairRows(page, context);
     addListRows(page);
     page->addStretch();
+
+    auto sendKey = [](int key) {
+        if (QWidget* focus = QApplication::focusWidget()) {
+            QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, QStringLiteral("1"));
+            QCoreApplication::sendEvent(focus, &press);
+        }
+    };
+    // The picture shows the grid being worked: the knob two pictures on, one more checked.
+    page->screenshotSetup = [page, layouts, sendKey] {
+        QCoreApplication::processEvents();
+        page->activate();
+        page->setCurrentIndex(0);
+        layouts->editValue();
+        sendKey(Qt::Key_Down);
+        sendKey(Qt::Key_Return);
+        sendKey(Qt::Key_Down);
+        sendKey(Qt::Key_Down);
+    };
+    // A second picture: the backup's list open, without the chosen input.
+    page->screenshotVariants.append({QStringLiteral("backup"), [page, backup, sendKey] {
+                                         QCoreApplication::processEvents();
+                                         page->activate();
+                                         page->setCurrentIndex(2);
+                                         backup->editValue();
+                                         sendKey(Qt::Key_Return);
+                                     }});
     return page;
 }

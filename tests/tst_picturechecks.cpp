@@ -171,6 +171,9 @@ private slots:
         off->editValue();
         QCOMPARE(started.size() + started2.size(), 0);
         QCOMPARE(QApplication::focusWidget(), host.get());
+        QTest::ignoreMessage(QtDebugMsg, "[TypeItemMultiPictureCheck] setContentFontSize: font size must be positive, got -4");
+        off->setContentFontSize(-4);
+        QCOMPARE(off->pictureCheckWidget()->contentFontSize(), PictureCheckWidget::kDefaultFontSize);
     }
 
     void removingTheFocusedPictureKeepsTheKnob()

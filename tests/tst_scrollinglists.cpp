@@ -219,6 +219,9 @@ private slots:
         QCOMPARE(row.textLabel()->text(), QString());
         row.setEditable(false);
         row.addItem(QStringLiteral("C"), 3);
+        QTest::ignoreMessage(QtDebugMsg, "[TypeItemSliderList] setContentFontSize: font size must be positive, got 0");
+        row.setContentFontSize(0);
+        QCOMPARE(row.contentFontSize(), 20);
         QTest::ignoreMessage(QtDebugMsg, "[TypeItemSliderList] Rate: the choice is fixed");
         row.editValue();
         QCOMPARE(started.size(), 0);

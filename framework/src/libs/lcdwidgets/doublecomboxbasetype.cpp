@@ -202,8 +202,12 @@ void DoubleComboxBaseType::closeEditValue()
 
 void DoubleComboxBaseType::setContentFontSize(int size)
 {
+    if (size < 1) {
+        qDebug() << "[DoubleComboxBaseType] setContentFontSize: font size must be positive, got" << size;
+        return;
+    }
     CommonItemType::setContentFontSize(size);
-    if (!d->first || size < 1)
+    if (!d->first)
         return;
     d->first->setContentFontSize(size);
     d->second->setContentFontSize(size);

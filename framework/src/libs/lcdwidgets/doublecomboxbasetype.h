@@ -17,7 +17,9 @@
 // signalSecondCurrentTextChanged. Every committed change of either emits
 // signalValueChanged(QVariant(QVariantList{first user data, second user data})).
 //
-// Bad input is refused by the inner rows with their own messages.
+// Bad input is refused by the inner rows with their own messages, and by the row:
+//   "[<class>] <title>: nothing to choose from" (neither choice can open)
+//   "[DoubleComboxBaseType] setContentFontSize: font size must be positive, got N"
 // Theme: the separator between the two has "isDoubleComboxSeparator" = true.
 #pragma once
 

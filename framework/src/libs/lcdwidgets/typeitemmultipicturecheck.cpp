@@ -89,6 +89,10 @@ void TypeItemMultiPictureCheck::closeEditValue()
 
 void TypeItemMultiPictureCheck::setContentFontSize(int size)
 {
+    if (size < 1) {
+        qDebug() << "[TypeItemMultiPictureCheck] setContentFontSize: font size must be positive, got" << size;
+        return;
+    }
     CommonItemType::setContentFontSize(size);
     d->grid->setContentFontSize(size);
 }

@@ -9,7 +9,9 @@
 // signalCloseEditStatus() and then signalEditFinished(). A row whose grid is empty,
 // hidden or disabled does not start an edit.
 //
-// Bad input is refused with the grid's messages ("[PictureCheckWidget] ...").
+// Bad input is refused with the grid's messages ("[PictureCheckWidget] ...") and
+//   "[TypeItemMultiPictureCheck] <title>: no pictures to choose from" (editValue)
+//   "[TypeItemMultiPictureCheck] setContentFontSize: font size must be positive, got N"
 // Theme: see PictureCheckWidget; the grid has the object name "PictureCheckWidget".
 #pragma once
 

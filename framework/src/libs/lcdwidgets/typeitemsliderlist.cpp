@@ -319,13 +319,15 @@ void TypeItemSliderList::closeEditValue()
 
 void TypeItemSliderList::setContentFontSize(int size)
 {
-    CommonItemType::setContentFontSize(size);
-    if (size < 1)
+    if (size < 1) {
+        qDebug() << "[TypeItemSliderList] setContentFontSize: font size must be positive, got" << size;
         return;
+    }
+    CommonItemType::setContentFontSize(size);
     QFont f = d->text->font();
     f.setPixelSize(size);
     d->text->setFont(f);
-    d->slider->setMinimumWidth(size * 6);
+    d->slider->setMinimumWidth(static_cast<int>(qMin<qint64>(qint64(size) * 6, QWIDGETSIZE_MAX)));
 }
 
 void TypeItemSliderList::setContentDisabled(bool disabled) const

@@ -20,6 +20,7 @@
 //   "[TypeItemSliderList] <function>: no entry holds <data or text>"
 //   "[TypeItemSliderList] <title>: nothing to choose from" (fewer than two visible entries)
 //   "[TypeItemSliderList] <title>: the choice is fixed" (after setEditable(false))
+//   "[TypeItemSliderList] setContentFontSize: font size must be positive, got N"
 //
 // Theme: the slider has "isSliderList" = true, the text "isSliderListText" = true;
 // a disabled row sets "Gray" = true on the text.
