@@ -17,6 +17,7 @@ QList<PageInfo> galleryPages()
         {QStringLiteral("layers"), buildLayersPage},
         {QStringLiteral("factorytest"), buildFactoryTestPage},
         {QStringLiteral("choices"), buildChoicesPage},
+        {QStringLiteral("pictures"), buildPicturesPage},
         {QStringLiteral("dialogs"), buildDialogsPage},
     };
 }

@@ -32,6 +32,7 @@ ItemPage* buildLayersPage(GalleryContext& context);      // layer rows, preview,
 ItemPage* buildFactoryTestPage(GalleryContext& context); // the factory test page
 ItemPage* buildChoicesPage(GalleryContext& context); // switches, button rows, effect chooser
 ItemPage* buildDialogsPage(GalleryContext& context); // dialogs (page_dialogs.cpp)
+ItemPage* buildPicturesPage(GalleryContext& context); // picture checks, paired choices, scrolling lists
 
 // Sections that other pages include.
 void addBarSection(ItemPage* page, GalleryContext& context);      // bottom and reset/apply bars (Display page)

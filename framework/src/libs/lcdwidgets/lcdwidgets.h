@@ -91,6 +91,17 @@
 #include "typeitemmultioperbtn.h"
 #include "typemultipleselectbtn.h"
 #include "effectpicturewidget.h"
+// Picture choices, paired combos and scrolling lists
+#include "picturecheckwidget.h"
+#include "typeitemmultipicturecheck.h"
+#include "doublecomboxbasetype.h"
+#include "typeitemdoublecombox.h"
+#include "typeitemdialogdoublecombox.h"
+#include "typeinputbackupcombox.h"
+#include "wraplistdelegate.h"
+#include "nqlistwidget.h"
+#include "typeitemsliderlist.h"
+#include "expandabletable.h"
 // Dialogs
 #include "reminderdialog.h"
 #include "minireminderdialog.h"

@@ -1,0 +1,64 @@
+// A list worked by the knob: Up/Down move the current row, the press activates it,
+// Escape gives the knob back. The current row's text, when it does not fit, scrolls
+// as in the drop-down's list (ScrollingTextDelegate); setWrapText(true) wraps long
+// texts over several lines instead (WrapListDelegate).
+//
+// Keys: Up (previous) / Down (next) move by the knob's level in rows, truncated, at
+// least one row (level 3 skips three rows), skipping hidden rows, no wrap at the ends;
+// Enter/Return emit signalActivated(row) (and QListWidget's itemActivated); Escape
+// emits sigCloseEdit(). A move emits QListWidget's currentRowChanged(row).
+//
+// Bad input is refused with a debug message and changes nothing:
+//   "[NQListWidget] setCurrentIndex: index N out of range (count M)"
+//   "[NQListWidget] setContentFontSize: font size must be positive, got N"
+//   "[NQListWidget] setScrollInterval: interval must be positive, got N"
+//
+// Theme: the list has the dynamic property "isNQListWidget" = true.
+#pragma once
+
+#include "lcdwidgets_global.h"
+
+#include <QListWidget>
+#include <memory>
+
+namespace LCD {
+namespace Widget {
+
+class LCDWIDGETS_EXPORT NQListWidget : public QListWidget
+{
+    Q_OBJECT
+public:
+    static constexpr int kScrollInterval = 50; // ms a scroll tick
+
+    explicit NQListWidget(QWidget* parent = nullptr);
+    ~NQListWidget() override;
+
+    // Makes the row current (silently scrolled into view); -1 clears it.
+    void setCurrentIndex(int row);
+    int currentIndex() const;
+    void setContentFontSize(int size);
+    int contentFontSize() const;
+    // true: long texts wrap and rows grow; false (default): the current row scrolls.
+    void setWrapText(bool wrap);
+    bool wrapText() const;
+    void setScrollInterval(int ms);
+    // Rows that are not hidden.
+    int visibleCount() const;
+
+signals:
+    void signalActivated(int row);
+    void sigCloseEdit();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    struct Impl;
+    std::unique_ptr<Impl> d;
+};
+
+} // namespace Widget
+} // namespace LCD
