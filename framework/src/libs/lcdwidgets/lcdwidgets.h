@@ -100,3 +100,8 @@
 #include "waitingdialog.h"
 #include "blockdialog.h"
 #include "customreminderdialog.h"
+#include "textviewdialog.h"
+#include "mutilprogressbardialog.h"
+#include "lockreminderdialog.h"
+#include "lockpanel.h"
+#include "aboutpage.h"
