@@ -15,5 +15,6 @@ QList<PageInfo> galleryPages()
         {QStringLiteral("tbar"), buildTBarPage},
         {QStringLiteral("choices"), buildChoicesPage},
         {QStringLiteral("dialogs"), buildDialogsPage},
+        {QStringLiteral("system"), buildSystemPage},
     };
 }

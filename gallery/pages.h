@@ -29,6 +29,7 @@ ItemPage* buildSwitchersPage(GalleryContext& context);
 ItemPage* buildTBarPage(GalleryContext& context);
 ItemPage* buildChoicesPage(GalleryContext& context); // switches, button rows, effect chooser
 ItemPage* buildDialogsPage(GalleryContext& context); // dialogs (page_dialogs.cpp)
+ItemPage* buildSystemPage(GalleryContext& context);  // text view, multi-progress, panel lock, about page
 
 // Sections that other pages include.
 void addBarSection(ItemPage* page, GalleryContext& context);      // bottom and reset/apply bars (Display page)

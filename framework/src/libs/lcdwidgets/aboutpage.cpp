@@ -55,6 +55,7 @@ AboutPage::AboutPage(QWidget* parent) : QFrame(parent), d(new Impl)
     d->scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     d->scroll->setFocusPolicy(Qt::NoFocus);
     d->scroll->setWidgetResizable(true);
+    d->scroll->verticalScrollBar()->setObjectName(QStringLiteral("aboutPageScrollBar"));
     d->list = new QWidget;
     d->list->setObjectName(QStringLiteral("aboutPageRows"));
     d->layout = new QVBoxLayout(d->list);

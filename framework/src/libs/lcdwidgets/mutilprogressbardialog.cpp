@@ -96,6 +96,9 @@ MutilProgressBarDialog::MutilProgressBarDialog(QRect rect, QWidget* parent) : QD
     d->scroll->setFocusPolicy(Qt::NoFocus);
     d->scroll->setWidgetResizable(true);
     d->scroll->setProperty("isMultiProgressList", true);
+    // Named after the policies above polished it: polish it again for the theme.
+    d->scroll->verticalScrollBar()->setObjectName(QStringLiteral("multiProgressScrollBar"));
+    repolish(d->scroll->verticalScrollBar());
     d->list = new QWidget;
     d->list->setObjectName(QStringLiteral("multiProgressRows"));
     d->listLayout = new QVBoxLayout(d->list);
@@ -160,8 +163,11 @@ int MutilProgressBarDialog::addTask(QString const& label)
         qWarning().noquote() << kWho << "addTask: at most" << kMaxTasks << "tasks";
         return -1;
     }
-    // The bar is 5/8 of the host width wide and 1/20 of its height high.
-    QRect const barRect(0, 0, d->rect.width(), d->rect.height() / 2);
+    // The bar fills the list's width (beside the scroll bar) and is 1/20 of the host
+    // height high; the bar takes 5/8 of its rectangle's width.
+    int const N = DialogUtil::fontPixels(d->fontSize);
+    int const listWidth = qMax(1, d->width - 3 * N);
+    QRect const barRect(0, 0, DialogUtil::part(listWidth, 8, 5), d->rect.height() / 2);
     Impl::Task task;
     task.label = label;
     task.bar = new ProgressBarCtr(barRect, d->list);
