@@ -57,7 +57,7 @@ LockPanel::LockPanel(QRect rect, QWidget* parent) : QFrame(parent), d(new Impl)
     setProperty("isLockPanel", true);
     setFocusPolicy(Qt::NoFocus);
     if (!parent) {
-        setWindowFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
+        setWindowFlags(Qt::Window | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
                        Qt::WindowDoesNotAcceptFocus);
         setAttribute(Qt::WA_ShowWithoutActivating);
     }
@@ -156,7 +156,8 @@ void LockPanel::lock()
         d->filtering = true;
     }
     QFrame::setVisible(true);
-    raise();
+    if (!isWindow())
+        raise(); // above the host's other widgets; a badge window stays on top by itself
     qDebug().noquote() << kWho << "locked";
     emit signalLockedChanged(true);
 }

@@ -187,7 +187,6 @@ void LockReminderDialog::showEvent(QShowEvent* event)
     QPoint const pos = DialogUtil::centreOn(d->rect, size());
     setGeometry(QRect(pos, size()));
     QDialog::showEvent(event);
-    DialogUtil::setRoundedMask(this, 12.0);
     d->timer.start();
 }
 

@@ -214,7 +214,6 @@ void TextViewDialog::showEvent(QShowEvent* event)
     setGeometry(QRect(pos, size()));
     qDebug().nospace() << "TextViewDialog pos x:" << pos.x() << ";y:" << pos.y();
     QDialog::showEvent(event);
-    DialogUtil::setRoundedMask(this, 12.0);
     d->view->setFocus(Qt::OtherFocusReason);
 }
 
