@@ -63,6 +63,7 @@ AboutPage::AboutPage(QWidget* parent) : QFrame(parent), d(new Impl)
     d->layout->setSpacing(0);
     d->layout->addStretch();
     d->scroll->setWidget(d->list);
+    d->scroll->viewport()->installEventFilter(this);
 
     auto* outer = new QVBoxLayout(this);
     outer->setContentsMargins(0, 0, 0, 0);
@@ -285,15 +286,17 @@ void AboutPage::keyPressEvent(QKeyEvent* event)
     }
 }
 
-void AboutPage::resizeEvent(QResizeEvent* event)
+bool AboutPage::eventFilter(QObject* watched, QEvent* event)
 {
-    QFrame::resizeEvent(event);
-    int const width = d->scroll->viewport()->width();
-    if (width == d->width)
-        return;
-    d->width = width;
-    for (int i = 0; i < d->rows.size(); ++i)
-        fitRow(i);
+    if (watched == d->scroll->viewport() && event->type() == QEvent::Resize) {
+        int const width = d->scroll->viewport()->width();
+        if (width != d->width) {
+            d->width = width;
+            for (int i = 0; i < d->rows.size(); ++i)
+                fitRow(i);
+        }
+    }
+    return QFrame::eventFilter(watched, event);
 }
 
 void AboutPage::changeEvent(QEvent* event)
