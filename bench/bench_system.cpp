@@ -83,8 +83,10 @@ void BM_MultiProgressUpdate(benchmark::State& state)
     for (int t = 0; t < 8; ++t)
         dialog.addTask(QStringLiteral("Camera %1").arg(t));
     int v = 0;
-    for (auto _ : state)
-        dialog.setTaskValue(v % 8, (v++ / 8) % 101);
+    for (auto _ : state) {
+        dialog.setTaskValue(v % 8, (v / 8) % 101);
+        ++v;
+    }
 }
 BENCHMARK(BM_MultiProgressUpdate)->Unit(benchmark::kMicrosecond);
 
