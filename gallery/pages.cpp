@@ -19,5 +19,6 @@ QList<PageInfo> galleryPages()
         {QStringLiteral("choices"), buildChoicesPage},
         {QStringLiteral("pictures"), buildPicturesPage},
         {QStringLiteral("dialogs"), buildDialogsPage},
+        {QStringLiteral("system"), buildSystemPage},
     };
 }

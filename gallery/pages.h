@@ -33,6 +33,7 @@ ItemPage* buildFactoryTestPage(GalleryContext& context); // the factory test pag
 ItemPage* buildChoicesPage(GalleryContext& context); // switches, button rows, effect chooser
 ItemPage* buildDialogsPage(GalleryContext& context); // dialogs (page_dialogs.cpp)
 ItemPage* buildPicturesPage(GalleryContext& context); // picture checks, paired choices, scrolling lists
+ItemPage* buildSystemPage(GalleryContext& context);  // text view, multi-progress, panel lock, about page
 
 // Sections that other pages include.
 void addBarSection(ItemPage* page, GalleryContext& context);      // bottom and reset/apply bars (Display page)

@@ -32,6 +32,7 @@ int main(int argc, char** argv)
     addDeviceImages(table);
     addChoiceImages(table);
     addDialogImages(table);
+    addSystemImages(table);
     for (auto const& [name, image] : table) {
         if (image.frames > 1) {
             if (!writeGif(out.filePath(name), image)) {

@@ -53,5 +53,6 @@ void addListImages(ImageTable& table);      // drop-downs and menus
 void addDeviceImages(ImageTable& table);    // number pad and device pages
 void addChoiceImages(ImageTable& table);    // choice controls: effect pictures and previews
 void addDialogImages(ImageTable& table);    // reminder, toast, tile and loading images
+void addSystemImages(ImageTable& table);    // panel lock
 
 } // namespace themeimages

@@ -130,3 +130,8 @@
 #include "factorytestleftframe.h"
 #include "factorytestrightframe.h"
 #include "factorytestframe.h"
+#include "textviewdialog.h"
+#include "mutilprogressbardialog.h"
+#include "lockreminderdialog.h"
+#include "lockpanel.h"
+#include "aboutpage.h"
