@@ -83,6 +83,38 @@ int createEveryClass(QWidget* page)
         new SwitcherItem(page),
         new SwitcherSelect(page),
         new TypeItemTBarCalibration(page),
+        // Line edits, multi-value editors, colour and progress rows
+        new NDoubleLineEdit(page),
+        new NSignalLineEdit(page),
+        new QMLineEdit(page),
+        new QDoubleLineEditWidget(QStringLiteral("Gain"), QStringLiteral("dB"), page),
+        new QSignalLineEditWidget(QStringLiteral("Name"), QString(), page),
+        new LineEditorWidget(page),
+        new MultiSpinBox(page),
+        new MultipleSpinBox(page),
+        new MultipleSpinBoxItem(QStringLiteral("X"), SuffixNone, page),
+        new TypeColorAdjust(page),
+        new TypeIntProgressBar(page),
+        // Picture choices, paired combos, scrolling lists
+        new PictureCheckWidget(page),
+        new TypeItemMultiPictureCheck(page),
+        new TypeInputBackupCombox(page),
+        new TypeItemDoubleCombox(page),
+        new TypeItemDialogDoubleCombox(page, nullptr),
+        new NQListWidget(page),
+        new TypeItemSliderList(page),
+        new ExpandableTable(page),
+        // System, layers, preview and factory test
+        new AboutPage(page),
+        new LockPanel(QRect(0, 0, 800, 480), page),
+        new TypeZOrderItemMore(page),
+        new TypeFrameTag(page),
+        new TypeGraphicWidget(page),
+        new PreviewWidget(page),
+        new TypePreviewWidget(page),
+        new FactoryTestFrame(page),
+        new FactoryTestLeftFrame(page),
+        new FactoryTestRightFrame(page),
     };
     // The bars are created without a parent and placed by the page's layout.
     widgets << new BottomButtomFrame(static_cast<Enum::BottomButtonType>(Enum::BottomOk | Enum::BottomCancel), page)
@@ -104,6 +136,9 @@ int createEveryClass(QWidget* page)
         new RoundedCornersDialog(page),
         new DialogMenuWidget(page),
         new MultipleDialog(0, {ItemSelectInfo(QStringLiteral("A"), QIcon(), 1)}, screen, page),
+        new TextViewDialog(screen, page),
+        new MutilProgressBarDialog(screen, page),
+        new LockReminderDialog(screen, page),
     };
     WaitingDialog::instance(screen, page);
     WaitingDialog::deleteInstance();

@@ -23,7 +23,7 @@ run(${CMAKE_COMMAND} -S ${SOURCE_DIR}/examples/host -B ${WORK}/host -DCMAKE_PREF
 run(${CMAKE_COMMAND} --build ${WORK}/host)
 run(${WORK}/host/lcdhost ${WORK}/row.png)
 if(NOT LAST_OUTPUT MATCHES "lcdwidgets 0.1.0" OR NOT LAST_OUTPUT MATCHES "row rendered"
-   OR NOT LAST_OUTPUT MATCHES "brightness 76" OR NOT LAST_OUTPUT MATCHES "created 67 widget classes")
+   OR NOT LAST_OUTPUT MATCHES "brightness 76" OR NOT LAST_OUTPUT MATCHES "created 96 widget classes")
     message(FATAL_ERROR "unexpected host output: ${LAST_OUTPUT}")
 endif()
 
