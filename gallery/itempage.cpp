@@ -59,6 +59,12 @@ void ItemPage::addItem(CommonItemType* item, int height)
     // Re-lay the title now that the theme has sized the value widgets.
     item->ensurePolished();
     item->setItemTitleText(item->itemTitle());
+    // The row's title rule leaves out the right icon and the row's spacing: give the
+    // title less where the whole row would be wider than the page.
+    if (int const over = item->sizeHint().width() - itemWidth(); over > 0) {
+        item->setItemTitleWidth(width - over);
+        item->setItemTitleText(item->itemTitle());
+    }
     m_layout->addWidget(item);
     m_entries.append({item, item, {}});
 

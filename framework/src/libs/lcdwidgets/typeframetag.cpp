@@ -55,6 +55,11 @@ void TypeFrameTag::setTagText(QString const& text)
 {
     d->tag->setText(text);
     d->tag->setVisible(!text.isEmpty());
+    // The title gets the room the tag leaves (measured as the theme draws it).
+    if (!itemTitle().isEmpty()) {
+        d->tag->ensurePolished();
+        setItemTitleText(itemTitle());
+    }
 }
 
 QString TypeFrameTag::tagText() const { return d->tag->text(); }
