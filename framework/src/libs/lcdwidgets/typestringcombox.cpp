@@ -326,6 +326,7 @@ void TypeStringCombox::editValue()
 void TypeStringCombox::closeEditValue()
 {
     d->editing = false;
+    setEdit(false);
     hidePopup();
     CommonItemType::closeEditValue();
 }
