@@ -1,6 +1,9 @@
 #include "dialogutil_p.h"
 
+#include <QApplication>
 #include <QBitmap>
+#include <QDialog>
+#include <QPointer>
 #include <QDebug>
 #include <QPainter>
 #include <QWidget>
@@ -59,6 +62,22 @@ void setRoundedMask(QWidget* widget, qreal radius)
     painter.drawRoundedRect(QRectF(QPointF(0, 0), QSizeF(widget->size())), radius, radius);
     painter.end();
     widget->setMask(mask);
+}
+
+int execModal(QDialog* dialog, std::atomic<int>* executing)
+{
+    QPointer<QDialog> self(dialog);
+    // The dialog is a window of its own: give the knob back to the window that had
+    // it (another box, the host's page) when it closes.
+    QPointer<QWidget> previous = QApplication::activeWindow();
+    executing->store(1);
+    int const result = dialog->QDialog::exec();
+    if (previous && previous.data() != static_cast<QWidget*>(dialog) && previous->isVisible())
+        previous->activateWindow();
+    qDebug().nospace() << "[dialog] exec finish with " << result;
+    if (self)
+        executing->store(0);
+    return result;
 }
 
 } // namespace DialogUtil

@@ -6,7 +6,9 @@
 #include <QRect>
 #include <QSize>
 #include <QString>
+#include <atomic>
 
+class QDialog;
 class QWidget;
 
 namespace LCD {
@@ -34,6 +36,13 @@ QPoint centreOn(QRect const& host, QSize const& size);
 
 // "<type>{font-size: <px>px; }"
 QString fontSheet(char const* type, int px);
+
+// Runs `dialog` modally (its QDialog::exec()) as every dialog of the library does:
+// `executing` is 1 while it runs and back to 0 after (only if the dialog still
+// exists: a dialog destroyed by its parent meanwhile is left alone), the window that
+// had the knob when it opened gets it back, and "[dialog] exec finish with <result>"
+// is logged.
+int execModal(QDialog* dialog, std::atomic<int>* executing);
 
 // Masks `widget` to its rectangle with corners of `radius`.
 void setRoundedMask(QWidget* widget, qreal radius = 6.0);

@@ -156,16 +156,7 @@ bool LockReminderDialog::isExec() const { return d->executing.load() != 0; }
 
 int LockReminderDialog::exec()
 {
-    QPointer<LockReminderDialog> self(this);
-    QPointer<QWidget> previous = QApplication::activeWindow();
-    d->executing.store(1);
-    int const result = QDialog::exec();
-    if (previous && previous != this && previous->isVisible())
-        previous->activateWindow();
-    qDebug().nospace() << "[dialog] exec finish with " << result;
-    if (self)
-        d->executing.store(0);
-    return result;
+    return DialogUtil::execModal(this, &d->executing);
 }
 
 void LockReminderDialog::keyPressEvent(QKeyEvent* event)

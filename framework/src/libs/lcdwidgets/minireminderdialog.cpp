@@ -235,18 +235,7 @@ bool MiniProcessDialog::isExec() const { return d->executing.load() != 0; }
 
 int MiniProcessDialog::exec()
 {
-    QPointer<MiniProcessDialog> self(this);
-    // The dialog is a window of its own: give the knob back to the window that
-    // had it (another box, the host's page) when it closes.
-    QPointer<QWidget> previous = QApplication::activeWindow();
-    d->executing.store(1);
-    int const result = QDialog::exec();
-    if (previous && previous != this && previous->isVisible())
-        previous->activateWindow();
-    qDebug().nospace() << "[dialog] exec finish with " << result;
-    if (self)
-        d->executing.store(0);
-    return result;
+    return DialogUtil::execModal(this, &d->executing);
 }
 
 void MiniProcessDialog::slot_buttonClicked(QAbstractButton* button)

@@ -335,16 +335,7 @@ int MutilProgressBarDialog::exec()
 {
     if (d->tasks.isEmpty())
         qWarning().noquote() << kWho << "exec: no task: only the host can close the dialog";
-    QPointer<MutilProgressBarDialog> self(this);
-    QPointer<QWidget> previous = QApplication::activeWindow();
-    d->executing.store(1);
-    int const result = QDialog::exec();
-    if (previous && previous != this && previous->isVisible())
-        previous->activateWindow();
-    qDebug().nospace() << "[dialog] exec finish with " << result;
-    if (self)
-        d->executing.store(0);
-    return result;
+    return DialogUtil::execModal(this, &d->executing);
 }
 
 bool MutilProgressBarDialog::handleKey(QKeyEvent* event)

@@ -154,16 +154,7 @@ bool TextViewDialog::isExec() const { return d->executing.load() != 0; }
 
 int TextViewDialog::exec()
 {
-    QPointer<TextViewDialog> self(this);
-    QPointer<QWidget> previous = QApplication::activeWindow();
-    d->executing.store(1);
-    int const result = QDialog::exec();
-    if (previous && previous != this && previous->isVisible())
-        previous->activateWindow();
-    qDebug().nospace() << "[dialog] exec finish with " << result;
-    if (self)
-        d->executing.store(0);
-    return result;
+    return DialogUtil::execModal(this, &d->executing);
 }
 
 bool TextViewDialog::handleKey(QKeyEvent* event)
