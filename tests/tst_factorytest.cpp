@@ -1,6 +1,7 @@
 // Factory test page: each test driven by real knob keys through the page (list, test,
 // result mark, summary, focus back to the list), the full-screen fills and the verdict,
 // the T-bar read through the host's keyboard proxy, and refused bad input.
+#include <fakehost.h>
 #include <knob.h>
 #include <lcdwidgets.h>
 
@@ -15,48 +16,6 @@ using namespace LCD::Widget;
 
 namespace {
 
-class FakeProxy : public LCD::KeyboardProxy
-{
-public:
-    std::pair<int, int> tbarRead() override
-    {
-        ++reads;
-        return {-7, position};
-    }
-    int position = 500;
-    int reads = 0;
-};
-
-class FakeHost : public dov::IHostApi
-{
-public:
-    int version() const override { return 1; }
-    bool registerObject(char const* name, void* object) override
-    {
-        objects[name] = object;
-        return true;
-    }
-    void unregisterObject(char const* name) override { objects.erase(name); }
-    void* findObject(char const* name) override
-    {
-        auto it = objects.find(name);
-        return it == objects.end() ? nullptr : it->second;
-    }
-    std::map<std::string, void*> objects;
-};
-
-struct HostScope
-{
-    FakeHost host;
-    FakeProxy proxy;
-    explicit HostScope(bool withProxy)
-    {
-        if (withProxy)
-            host.registerObject(LCD::KeyboardProxy::constants::OBJ_KEYBOARD_EVENT_NAME, &proxy);
-        dov::api::get().host = &host;
-    }
-    ~HostScope() { dov::api::get().host = nullptr; }
-};
 
 // The host's page: a window whose focus is the factory test page's list.
 struct Page
@@ -251,7 +210,7 @@ void TestFactoryTest::patternsLeftWithoutVerdictKeepMark()
 
 void TestFactoryTest::tbarTestReadsProxy()
 {
-    HostScope host(true);
+    HostScope host(true, 500);
     Page p;
     QVERIFY(p.start());
     p.right()->setTBarRange(100, 900);
@@ -287,7 +246,7 @@ void TestFactoryTest::tbarTestReadsProxy()
 
 void TestFactoryTest::tbarTestWithoutProxy()
 {
-    HostScope host(false);
+    HostScope host(false, 500);
     Page p;
     QVERIFY(p.start());
     QTest::ignoreMessage(QtWarningMsg, "_pKeyBoard is nullptr");
@@ -347,7 +306,7 @@ void TestFactoryTest::summaryAndBadInput()
     QCOMPARE(finished.count(), 0);
     auto* running = new FactoryTestFrame;
     {
-        HostScope host(true);
+        HostScope host(true, 500);
         running->startTest(int(FactoryTestItem::TBar));
         delete running;
     }

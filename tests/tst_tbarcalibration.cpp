@@ -1,6 +1,7 @@
 // T-bar calibration: the run of seven presses (begin, six readings, end) reading the
 // host's keyboard proxy, the button texts and the highlighted step, Escape in the
 // middle of a run, and a host without a proxy.
+#include <fakehost.h>
 #include <knob.h>
 #include <lcdwidgets.h>
 
@@ -16,49 +17,6 @@ using namespace LCD::Widget;
 
 namespace {
 
-class FakeProxy : public LCD::KeyboardProxy
-{
-public:
-    std::pair<int, int> tbarRead() override
-    {
-        ++reads;
-        return {-7, position};
-    }
-    int position = 0;
-    int reads = 0;
-};
-
-class FakeHost : public dov::IHostApi
-{
-public:
-    int version() const override { return 1; }
-    bool registerObject(char const* name, void* object) override
-    {
-        objects[name] = object;
-        return true;
-    }
-    void unregisterObject(char const* name) override { objects.erase(name); }
-    void* findObject(char const* name) override
-    {
-        auto it = objects.find(name);
-        return it == objects.end() ? nullptr : it->second;
-    }
-    std::map<std::string, void*> objects;
-};
-
-// The host API is process-wide: each test puts its own in place and takes it away.
-struct HostScope
-{
-    FakeHost host;
-    FakeProxy proxy;
-    explicit HostScope(bool withProxy)
-    {
-        if (withProxy)
-            host.registerObject(LCD::KeyboardProxy::constants::OBJ_KEYBOARD_EVENT_NAME, &proxy);
-        dov::api::get().host = &host;
-    }
-    ~HostScope() { dov::api::get().host = nullptr; }
-};
 
 struct Page
 {

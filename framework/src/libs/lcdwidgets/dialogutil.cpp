@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QBitmap>
 #include <QDialog>
+#include <QFrame>
+#include <QVBoxLayout>
 #include <QPointer>
 #include <QDebug>
 #include <QPainter>
@@ -62,6 +64,22 @@ void setRoundedMask(QWidget* widget, qreal radius)
     painter.drawRoundedRect(QRectF(QPointF(0, 0), QSizeF(widget->size())), radius, radius);
     painter.end();
     widget->setMask(mask);
+}
+
+QFrame* buildFramedWindow(QDialog* dialog, QSize size, QString const& frameName, char const* frameProperty)
+{
+    dialog->setFixedSize(size);
+    dialog->setWindowFlags(dialog->windowFlags() | Qt::FramelessWindowHint);
+    dialog->setAttribute(Qt::WA_TranslucentBackground);
+    dialog->setProperty("isReminderDialogBg", true);
+    auto* frame = new QFrame(dialog);
+    frame->setObjectName(frameName);
+    frame->setProperty(frameProperty, true);
+    frame->setFixedSize(size);
+    auto* outer = new QVBoxLayout(dialog);
+    outer->setContentsMargins(0, 0, 0, 0);
+    outer->addWidget(frame);
+    return frame;
 }
 
 int execModal(QDialog* dialog, std::atomic<int>* executing)

@@ -9,6 +9,7 @@
 #include <atomic>
 
 class QDialog;
+class QFrame;
 class QWidget;
 
 namespace LCD {
@@ -36,6 +37,12 @@ QPoint centreOn(QRect const& host, QSize const& size);
 
 // "<type>{font-size: <px>px; }"
 QString fontSheet(char const* type, int px);
+
+// The frameless, translucent window of a dialog ("isReminderDialogBg") fixed at
+// `size`, filled by one frame of the same size with the object name `frameName` and
+// the dynamic property `frameProperty` = true; returns the frame.
+QFrame* buildFramedWindow(QDialog* dialog, QSize size, QString const& frameName,
+                          char const* frameProperty = "isReminderFrameBg");
 
 // Runs `dialog` modally (its QDialog::exec()) as every dialog of the library does:
 // `executing` is 1 while it runs and back to 0 after (only if the dialog still

@@ -54,18 +54,8 @@ LockReminderDialog::LockReminderDialog(QRect rect, QWidget* parent) : QDialog(nu
     d->width = DialogUtil::part(d->rect.width(), 1, 2);
     d->height = DialogUtil::part(d->rect.height(), 1, 3);
 
-    setFixedSize(d->width, d->height);
-    setWindowFlags(windowFlags() | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
-    setAttribute(Qt::WA_TranslucentBackground);
-    setProperty("isReminderDialogBg", true);
-
-    d->frame = new QFrame(this);
-    d->frame->setObjectName(QStringLiteral("lockReminderFrame"));
-    d->frame->setProperty("isWaitingDialogFrameBg", true);
-    d->frame->setFixedSize(d->width, d->height);
-    auto* outer = new QVBoxLayout(this);
-    outer->setContentsMargins(0, 0, 0, 0);
-    outer->addWidget(d->frame);
+    d->frame = DialogUtil::buildFramedWindow(this, QSize(d->width, d->height), QStringLiteral("lockReminderFrame"), "isWaitingDialogFrameBg");
+    setWindowFlags(windowFlags() | Qt::WindowStaysOnTopHint);
 
     d->icon = new QLabel(d->frame);
     d->icon->setObjectName(QStringLiteral("lockReminderIcon"));

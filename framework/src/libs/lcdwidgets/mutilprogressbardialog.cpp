@@ -68,18 +68,7 @@ MutilProgressBarDialog::MutilProgressBarDialog(QRect rect, QWidget* parent) : QD
     d->height = DialogUtil::part(d->rect.height(), 4, 5);
     int const N = DialogUtil::fontPixels(d->fontSize);
 
-    setFixedSize(d->width, d->height);
-    setWindowFlags(windowFlags() | Qt::FramelessWindowHint);
-    setAttribute(Qt::WA_TranslucentBackground);
-    setProperty("isReminderDialogBg", true);
-
-    d->frame = new QFrame(this);
-    d->frame->setObjectName(QStringLiteral("multiProgressFrame"));
-    d->frame->setProperty("isReminderFrameBg", true);
-    d->frame->setFixedSize(d->width, d->height);
-    auto* outer = new QVBoxLayout(this);
-    outer->setContentsMargins(0, 0, 0, 0);
-    outer->addWidget(d->frame);
+    d->frame = DialogUtil::buildFramedWindow(this, QSize(d->width, d->height), QStringLiteral("multiProgressFrame"));
 
     d->title = new QLabel(d->frame);
     d->title->setObjectName(QStringLiteral("multiProgressTitle"));

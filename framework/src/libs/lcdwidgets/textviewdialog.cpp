@@ -43,18 +43,7 @@ TextViewDialog::TextViewDialog(QRect rect, QWidget* parent) : QDialog(nullptr), 
     d->height = DialogUtil::part(d->rect.height(), 4, 5);
     int const N = DialogUtil::fontPixels(d->fontSize);
 
-    setFixedSize(d->width, d->height);
-    setWindowFlags(windowFlags() | Qt::FramelessWindowHint);
-    setAttribute(Qt::WA_TranslucentBackground);
-    setProperty("isReminderDialogBg", true);
-
-    d->frame = new QFrame(this);
-    d->frame->setObjectName(QStringLiteral("textViewFrame"));
-    d->frame->setProperty("isReminderFrameBg", true);
-    d->frame->setFixedSize(d->width, d->height);
-    auto* outer = new QVBoxLayout(this);
-    outer->setContentsMargins(0, 0, 0, 0);
-    outer->addWidget(d->frame);
+    d->frame = DialogUtil::buildFramedWindow(this, QSize(d->width, d->height), QStringLiteral("textViewFrame"));
 
     d->title = new QLabel(d->frame);
     d->title->setObjectName(QStringLiteral("textViewTitle"));
