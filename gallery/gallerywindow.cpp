@@ -4,7 +4,10 @@
 #include "itempage.h"
 #include "pages.h"
 
+#include <lcdfwtranslatemanager.h>
+
 #include <QApplication>
+#include <QFileInfo>
 #include <QDir>
 #include <QKeyEvent>
 #include <QLabel>
@@ -76,7 +79,7 @@ void GalleryWindow::showPage(int index)
     m_stack->setCurrentIndex(index);
     page(index)->activate();
     updateHeader();
-    setStatus(tr("\u2191\u2193 turn   PgUp/PgDn fast   Enter press   Esc back   \u2190\u2192 page   [ ] T-bar"));
+    setStatus(tr("\u2191\u2193 turn   PgUp/PgDn fast   Enter press   Esc back   \u2190\u2192 page   [ ] T-bar   L language"));
 }
 
 void GalleryWindow::updateHeader()
@@ -86,7 +89,10 @@ void GalleryWindow::updateHeader()
                          .arg(page(i)->title())
                          .arg(i + 1)
                          .arg(pageCount()));
-    m_plugin->setText(tr("%1   T-bar %2").arg(m_pluginText).arg(m_context.host->keyboard().position()));
+    m_plugin->setText(tr("%1   T-bar %2   %3")
+                          .arg(m_pluginText)
+                          .arg(m_context.host->keyboard().position())
+                          .arg(language() == QLatin1String("en") ? QStringLiteral("EN") : QStringLiteral("\u4e2d\u6587")));
 }
 
 void GalleryWindow::setStatus(QString const& text) { m_status->setText(text); }
@@ -154,6 +160,44 @@ int GalleryWindow::renderScreenshots(QString const& dir)
     return written;
 }
 
+QString GalleryWindow::catalogueFor(QString const& language)
+{
+    if (language.isEmpty() || language == QLatin1String("en") || language.startsWith(QLatin1String("en_")))
+        return QString();
+    // Relative to bin/, as the theme.
+    return QFileInfo(QStringLiteral("./../share/translations/lcdwidgets_%1.qm").arg(language)).absoluteFilePath();
+}
+
+bool GalleryWindow::setLanguage(QString const& language)
+{
+    LCDFWTranslateManager* manager = LCDFWTranslateManager::instance();
+    QString const qm = catalogueFor(language);
+    if (qm.isEmpty()) {
+        manager->resetLanguage();
+        return true;
+    }
+    return manager->setLanguage(qm);
+}
+
+QString GalleryWindow::language()
+{
+    QString const qm = QFileInfo(LCDFWTranslateManager::instance()->currentCatalogue()).completeBaseName();
+    return qm.startsWith(QLatin1String("lcdwidgets_")) ? qm.mid(11) : QStringLiteral("en");
+}
+
+void GalleryWindow::toggleLanguage()
+{
+    QString const next = language() == QLatin1String("en") ? QStringLiteral("zh_CN") : QStringLiteral("en");
+    if (!setLanguage(next)) {
+        setStatus(tr("Cannot load %1").arg(catalogueFor(next)));
+        return;
+    }
+    // The widgets re-translate themselves on the language-change event that follows.
+    updateHeader();
+    setStatus(next == QLatin1String("en") ? tr("Language: English (L: \u4e2d\u6587)")
+                                          : tr("Language: \u4e2d\u6587 (L: English)"));
+}
+
 KnobKeyboard::KnobKeyboard(GalleryWindow* window, GalleryContext& context) : m_window(window), m_context(context) {}
 
 bool KnobKeyboard::eventFilter(QObject* watched, QEvent* event)
@@ -187,6 +231,16 @@ bool KnobKeyboard::eventFilter(QObject* watched, QEvent* event)
                 int const n = m_window->pageCount();
                 m_window->showPage((m_window->currentPage() + (key->key() == Qt::Key_Right ? 1 : n - 1)) % n);
             }
+            return true;
+        }
+        break;
+    }
+    case Qt::Key_L: {
+        // Only while the page's list has the knob: an editor keeps its letters.
+        ItemPage* page = m_window->page(m_window->currentPage());
+        if (page && focus == page->list()) {
+            if (event->type() == QEvent::KeyPress && !key->isAutoRepeat())
+                m_window->toggleLanguage();
             return true;
         }
         break;

@@ -38,6 +38,17 @@ public:
     // Closes menus and pop-ups left open (with Escape, as the user would).
     void closeOtherWindows();
 
+    // --- Language: the library's catalogues under ./../share/translations/ ---
+    // The catalogue of a language name ("zh_CN"); empty for English ("en", "en_US").
+    static QString catalogueFor(QString const& language);
+    // Switches the library's texts to `language` ("en" for the source texts); false
+    // (and the language unchanged) when its catalogue can't be loaded.
+    static bool setLanguage(QString const& language);
+    // "zh_CN" while the Chinese catalogue is loaded, "en" otherwise.
+    static QString language();
+    // English <-> Chinese (the L key).
+    void toggleLanguage();
+
 private:
     GalleryContext& m_context;
     QString m_pluginText;
@@ -50,7 +61,7 @@ private:
 
 // Makes the desktop keyboard work like the panel: PageUp/PageDown become fast knob
 // turns (Up/Down with a level in the text), Left/Right change pages, [ and ] move
-// the T-bar.
+// the T-bar, L switches the language (English <-> Chinese) while no row is edited.
 class KnobKeyboard : public QObject
 {
     Q_OBJECT

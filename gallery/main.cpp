@@ -2,6 +2,7 @@
 //
 //   lcdgallery                    interactive, in a window (renders PNGs when there is no display)
 //   lcdgallery --screenshots DIR  renders every page to DIR/NN-page.png and exits
+//   lcdgallery --language zh_CN   starts in Chinese (L switches English <-> Chinese)
 #include "gallerycontext.h"
 #include "galleryhost.h"
 #include "gallerywindow.h"
@@ -76,8 +77,9 @@ int main(int argc, char** argv)
     parser.addHelpOption();
     QCommandLineOption shots(QStringLiteral("screenshots"), QStringLiteral("Render every page to PNG files in <dir> and exit."),
                              QStringLiteral("dir"));
-    QCommandLineOption lang(QStringLiteral("language"), QStringLiteral("Load the translation catalogue <qm>."),
-                            QStringLiteral("qm"));
+    QCommandLineOption lang(QStringLiteral("language"),
+                            QStringLiteral("Start in <language>: a name (zh_CN, en) or a catalogue file (.qm)."),
+                            QStringLiteral("language"));
     QCommandLineOption pageOpt(QStringLiteral("page"), QStringLiteral("Start on page <n> (1-based)."), QStringLiteral("n"));
     parser.addOptions({shots, lang, pageOpt});
     parser.process(app);
@@ -87,7 +89,11 @@ int main(int argc, char** argv)
         shotDir = QStringLiteral("gallery-screenshots");
     if (!shotDir.isEmpty())
         shotDir = QDir(shotDir).absolutePath();
-    QString const qm = parser.isSet(lang) ? QFileInfo(parser.value(lang)).absoluteFilePath() : QString();
+    // A catalogue file is taken relative to where the gallery was started; a language
+    // name is looked up among the installed catalogues once bin/ is the current folder.
+    QString const language = parser.value(lang);
+    bool const languageIsFile = language.endsWith(QLatin1String(".qm")) || language.contains(QLatin1Char('/'));
+    QString qm = languageIsFile ? QFileInfo(language).absoluteFilePath() : QString();
 
     // Theme images are addressed relative to the host's working directory (bin/).
     QDir::setCurrent(QCoreApplication::applicationDirPath());
@@ -99,8 +105,12 @@ int main(int argc, char** argv)
         std::fprintf(stderr, "lcdgallery: cannot load liblcdwidgets: %s\n", qPrintable(plugin.errorString()));
         return 1;
     }
-    if (!qm.isEmpty() && !LCDFWTranslateManager::instance()->setLanguage(qm))
+    if (!language.isEmpty() && !languageIsFile)
+        qm = GalleryWindow::catalogueFor(language);
+    if (!qm.isEmpty() && !LCDFWTranslateManager::instance()->setLanguage(qm)) {
         std::fprintf(stderr, "lcdgallery: cannot load %s\n", qPrintable(qm));
+        return 1;
+    }
 
     QFile theme(QStringLiteral("./../share/themes/default/default.qss"));
     QString sheet;

@@ -72,31 +72,31 @@ AboutPage::AboutPage(QWidget* parent) : QFrame(parent), d(new Impl)
 
 AboutPage::~AboutPage() = default;
 
-void AboutPage::setModel(QString const& model) { setRow(QStringLiteral("Model"), true, model, "setModel"); }
+void AboutPage::setModel(QString const& model) { setRow(QStringLiteral(QT_TRANSLATE_NOOP("LCD::MenuWidgets", "Model")), true, model, "setModel"); }
 
 void AboutPage::setSoftwareVersion(QString const& version)
 {
-    setRow(QStringLiteral("Software version"), true, version, "setSoftwareVersion");
+    setRow(QStringLiteral(QT_TRANSLATE_NOOP("LCD::MenuWidgets", "Software version")), true, version, "setSoftwareVersion");
 }
 
 void AboutPage::setHardwareVersion(QString const& version)
 {
-    setRow(QStringLiteral("Hardware version"), true, version, "setHardwareVersion");
+    setRow(QStringLiteral(QT_TRANSLATE_NOOP("LCD::MenuWidgets", "Hardware version")), true, version, "setHardwareVersion");
 }
 
 void AboutPage::setSerialNumber(QString const& serial)
 {
-    setRow(QStringLiteral("Serial number"), true, serial, "setSerialNumber");
+    setRow(QStringLiteral(QT_TRANSLATE_NOOP("LCD::MenuWidgets", "Serial number")), true, serial, "setSerialNumber");
 }
 
 void AboutPage::setIpAddress(QString const& address)
 {
-    setRow(QStringLiteral("IP address"), true, address, "setIpAddress");
+    setRow(QStringLiteral(QT_TRANSLATE_NOOP("LCD::MenuWidgets", "IP address")), true, address, "setIpAddress");
 }
 
 void AboutPage::setMacAddress(QString const& address)
 {
-    setRow(QStringLiteral("MAC address"), true, address, "setMacAddress");
+    setRow(QStringLiteral(QT_TRANSLATE_NOOP("LCD::MenuWidgets", "MAC address")), true, address, "setMacAddress");
 }
 
 int AboutPage::setInfo(QString const& key, QString const& value)

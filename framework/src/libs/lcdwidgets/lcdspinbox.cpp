@@ -1,6 +1,7 @@
 #include "lcdspinbox.h"
 
 #include "knoblevel.h"
+#include "lcdtranslate.h"
 
 #include <QDebug>
 #include <QKeyEvent>
@@ -70,7 +71,7 @@ QString suffixText(SuffixType type, bool degrees)
     case SuffixPercent:
         return QStringLiteral("%");
     case SuffixSecond:
-        return QStringLiteral("s");
+        return lcdTranslate(QStringLiteral("s"));
     case SuffixDegree:
         return degrees ? QStringLiteral("°") : QString();
     case SuffixNone:
@@ -166,6 +167,13 @@ void NQSpinBox::setSuffixType(SuffixType type)
 }
 
 void NQSpinBox::setRoundOff(bool on) { m_roundOff = on; }
+
+void NQSpinBox::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange && m_suffixType == SuffixSecond)
+        setSuffix(suffixText(m_suffixType, true));
+    QSpinBox::changeEvent(event);
+}
 
 void NQSpinBox::knobStep(bool up, float level)
 {
@@ -310,6 +318,13 @@ NQDoubleSpinBox::NQDoubleSpinBox(SuffixType suffix, QuitStrategy quit, QWidget* 
 }
 
 NQDoubleSpinBox::~NQDoubleSpinBox() = default;
+
+void NQDoubleSpinBox::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange && m_suffixType == SuffixSecond)
+        setSuffix(suffixText(m_suffixType, false));
+    QDoubleSpinBox::changeEvent(event);
+}
 
 double NQDoubleSpinBox::getStep(float level) const { return stepFor(level, minimum(), maximum(), singleStep()); }
 

@@ -55,6 +55,8 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
     QValidator::State validate(QString& input, int& pos) const override;
     void fixup(QString& input) const override;
+    // The unit's word follows the interface language.
+    void changeEvent(QEvent* event) override;
 
 private:
     bool drawsFocusFrame() const { return m_focusFrameMode == 1 || m_focusFrameMode == 3; }
@@ -98,6 +100,8 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
     QValidator::State validate(QString& input, int& pos) const override;
     void fixup(QString& input) const override;
+    // The unit's word follows the interface language.
+    void changeEvent(QEvent* event) override;
 
 private:
     QString stripAffixes(QString const& input) const;

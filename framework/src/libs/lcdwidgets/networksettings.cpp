@@ -164,7 +164,10 @@ void NetworkSettings::Impl::createWidget()
 void NetworkSettings::retranslateUi()
 {
     d->title->setText(tr("Network Settings"));
-    static char const* const captions[5] = {"Network Mode", "IP Address", "Subnet Mask", "Gateway", "Mac Address"};
+    static char const* const captions[5] = {
+        QT_TRANSLATE_NOOP("LCD::MenuWidgets", "Network Mode"), QT_TRANSLATE_NOOP("LCD::MenuWidgets", "IP Address"),
+        QT_TRANSLATE_NOOP("LCD::MenuWidgets", "Subnet Mask"), QT_TRANSLATE_NOOP("LCD::MenuWidgets", "Gateway"),
+        QT_TRANSLATE_NOOP("LCD::MenuWidgets", "Mac Address")};
     for (int i = 0; i < 5; ++i)
         d->captions[i]->setText(lcdTranslate(QString::fromLatin1(captions[i])));
     d->mode->setItemText(0, lcdTranslate(QStringLiteral("Manual")));

@@ -25,7 +25,7 @@ constexpr int kItemWidth = 510;
 constexpr int kItemHeight = 52;
 constexpr int kKeyAdd = Qt::Key_Z; // 90
 // Until the host names the model.
-QString const kPlaceholderModel = QStringLiteral("Switcher");
+char const* const kPlaceholderModel = QT_TRANSLATE_NOOP("LCD::MenuWidgets", "Switcher");
 QString const kBoundImage = QStringLiteral("toast_success");
 
 // Sets a style property; re-polishes only a widget already polished with another value.
@@ -94,7 +94,7 @@ void SwitcherItem::createWidget()
     row->setContentsMargins(8, 0, 8, 0);
     row->setSpacing(4);
 
-    d->model = new QLabel(kPlaceholderModel, d->main);
+    d->model = new QLabel(lcdTranslate(QString::fromLatin1(kPlaceholderModel)), d->main);
     d->model->setFixedWidth(90);
     d->model->setProperty("isSwitcherModel", true);
     d->separator = new QWidget(d->main);
