@@ -89,10 +89,10 @@ void GalleryWindow::updateHeader()
                          .arg(page(i)->title())
                          .arg(i + 1)
                          .arg(pageCount()));
-    m_plugin->setText(tr("%1   T-bar %2   %3")
-                          .arg(m_pluginText)
-                          .arg(m_context.host->keyboard().position())
-                          .arg(language() == QLatin1String("en") ? QStringLiteral("EN") : QStringLiteral("\u4e2d\u6587")));
+    QString text = tr("%1   T-bar %2").arg(m_pluginText).arg(m_context.host->keyboard().position());
+    if (language() != QLatin1String("en"))
+        text += QStringLiteral("   \u4e2d\u6587"); // the library's texts are in Chinese
+    m_plugin->setText(text);
 }
 
 void GalleryWindow::setStatus(QString const& text) { m_status->setText(text); }
