@@ -98,7 +98,7 @@ Device</source>
     <message>
         <source>Hold %1 for %2 s to unlock</source>
         <comment>Global</comment>
-        <translation>长按%1 %2 秒解锁</translation>
+        <translation>长按“%1”%2 秒解锁</translation>
     </message>
     <message>
         <source>IP Address</source>
