@@ -72,7 +72,10 @@ AboutPage::AboutPage(QWidget* parent) : QFrame(parent), d(new Impl)
 
 AboutPage::~AboutPage() = default;
 
-void AboutPage::setModel(QString const& model) { setRow(QStringLiteral(QT_TRANSLATE_NOOP("LCD::MenuWidgets", "Model")), true, model, "setModel"); }
+void AboutPage::setModel(QString const& model)
+{
+    setRow(QStringLiteral(QT_TRANSLATE_NOOP("LCD::MenuWidgets", "Model")), true, model, "setModel");
+}
 
 void AboutPage::setSoftwareVersion(QString const& version)
 {
