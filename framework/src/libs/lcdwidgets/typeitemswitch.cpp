@@ -155,5 +155,7 @@ void TypeItemMultiSwitch::setContentFontSize(int size)
 
 MultiSwitchWidget* TypeItemMultiSwitch::multiSwitchWidget() const { return d->widget; }
 
+bool TypeItemSwitch::isToggled() const { return d->control->isToggled(); }
+
 } // namespace Widget
 } // namespace LCD
