@@ -373,7 +373,7 @@ void TestDesignerPlugin::checkForm(QWidget* form)
     auto* tally = form->findChild<TypeItemSwitch*>(QStringLiteral("tally"));
     QVERIFY(tally);
     QCOMPARE(tally->itemTitle(), QStringLiteral("Tally"));
-    QVERIFY(tally->isToggled());
+    QVERIFY(tally->getToggle());
 
     auto* layer = form->findChild<TypeFrameTag*>(QStringLiteral("layer"));
     QVERIFY(layer);

@@ -155,7 +155,5 @@ void TypeItemMultiSwitch::setContentFontSize(int size)
 
 MultiSwitchWidget* TypeItemMultiSwitch::multiSwitchWidget() const { return d->widget; }
 
-bool TypeItemSwitch::isToggled() const { return d->control->isToggled(); }
-
 } // namespace Widget
 } // namespace LCD

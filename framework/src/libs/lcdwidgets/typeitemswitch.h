@@ -19,13 +19,12 @@ class SwitchControl;
 class LCDWIDGETS_EXPORT TypeItemSwitch : public CommonItemType
 {
     Q_OBJECT
-    Q_PROPERTY(bool toggle READ isToggled WRITE setToggle)
+    Q_PROPERTY(bool toggle READ getToggle WRITE setToggle)
 public:
     explicit TypeItemSwitch(QWidget* parent = nullptr);
     ~TypeItemSwitch() override;
 
     void setToggle(bool checked);
-    bool isToggled() const;
     bool getToggle();
     // Shows the text before the switch.
     void setLabelText(QString const& text);
