@@ -43,6 +43,7 @@ class TypeKeyValueText;
 class LCDWIDGETS_EXPORT AboutPage : public QFrame
 {
     Q_OBJECT
+    Q_PROPERTY(int contentFontSize READ contentFontSize WRITE setContentFontSize)
 public:
     static constexpr int kMaxRows = 256;
 

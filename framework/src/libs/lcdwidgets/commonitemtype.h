@@ -29,6 +29,11 @@ namespace Widget {
 class LCDWIDGETS_EXPORT CommonItemType : public QFrame
 {
     Q_OBJECT
+    Q_PROPERTY(QString itemTitle READ itemTitle WRITE setItemTitle)
+    Q_PROPERTY(int contentFontSize READ contentFontSize WRITE setContentFontSize)
+    Q_PROPERTY(int itemHeight READ itemHeight WRITE setItemHeight)
+    Q_PROPERTY(bool contentEnabled READ getContentEnabled WRITE setContentEnabled)
+    Q_PROPERTY(bool autoUpdateContent READ getAutoUpdateContent WRITE setAutoUpdateContent)
 public:
     explicit CommonItemType(QWidget* parent = nullptr);
     ~CommonItemType() override;

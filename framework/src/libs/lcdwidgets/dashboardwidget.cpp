@@ -628,5 +628,9 @@ void DashBoardWidget::paintEvent(QPaintEvent*)
     }
 }
 
+void DashBoardWidget::setMinimum(double min) { setMin(min); }
+
+void DashBoardWidget::setMaximum(double max) { setmax(max); }
+
 } // namespace Widget
 } // namespace LCD

@@ -47,6 +47,23 @@ struct DashBoardData
 class LCDWIDGETS_EXPORT DashBoardWidget : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(double minimum READ min WRITE setMinimum)
+    Q_PROPERTY(double maximum READ max WRITE setMaximum)
+    Q_PROPERTY(double value READ value WRITE setValue)
+    Q_PROPERTY(double step READ step WRITE setStep)
+    Q_PROPERTY(int fraction READ fraction WRITE setFraction)
+    Q_PROPERTY(double startAngle READ startAngle WRITE setStartAngle)
+    Q_PROPERTY(double endAngle READ endAngle WRITE setEndAngle)
+    Q_PROPERTY(int scaleMajor READ scaleMajor WRITE setScaleMajor)
+    Q_PROPERTY(int scaleMinor READ scaleMinor WRITE setScaleMinor)
+    Q_PROPERTY(QString unit READ unit WRITE setUnit)
+    Q_PROPERTY(QString text READ text WRITE setText)
+    Q_PROPERTY(QColor arcColor READ arcColor WRITE setArcColor)
+    Q_PROPERTY(QColor scaleColor READ scaleColor WRITE setScaleColor)
+    Q_PROPERTY(QColor pointerColor READ pointerColor WRITE setPointerColor)
+    Q_PROPERTY(QColor textColor READ textColor WRITE setTextColor)
+    Q_PROPERTY(QColor backgroundColor READ backgroundColor WRITE setBackgroundColor)
+    Q_PROPERTY(bool selected READ isSelected WRITE setSelected)
     Q_PROPERTY(double value READ value WRITE setValue)
 public:
     static const QColor SELECTED_COLOR;
@@ -63,6 +80,10 @@ public:
     double min() const;
     void setmax(double max);
     double max() const;
+    // The same, under the names a form sets.
+    void setMinimum(double min);
+    void setMaximum(double max);
+
     void setStartAngle(double angle);
     double startAngle() const;
     void setEndAngle(double angle);

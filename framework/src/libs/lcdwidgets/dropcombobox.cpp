@@ -183,6 +183,8 @@ struct LCDWIDGETS_HIDDEN DropCombobox::Impl
     QString viewSheet;  // standard popup's sheet, as last applied
 };
 
+DropCombobox::DropCombobox(QWidget* parent) : DropCombobox(true, parent) {}
+
 DropCombobox::DropCombobox(bool haveArrow, QWidget* parent) : QComboBox(parent), d(std::make_unique<Impl>())
 {
     setProperty("isHaveArrow", haveArrow);

@@ -100,6 +100,8 @@ private:
 class LCDWIDGETS_EXPORT DropCombobox : public QComboBox
 {
     Q_OBJECT
+    Q_PROPERTY(int fontSize READ fontSize WRITE setFontSize)
+    Q_PROPERTY(bool isNeedShowCombox READ isNeedShowCombox WRITE setIsNeedShowCombox)
 public:
     static constexpr int kHiddenRowRole = 252;
     // Screens up to this size always use the custom list.
@@ -113,6 +115,8 @@ public:
     // haveArrow: whether the combo shows its drop-down arrow (dynamic property
     // "isHaveArrow" for the theme).
     explicit DropCombobox(bool haveArrow = true, QWidget* parent = nullptr);
+    // With the arrow; without this, DropCombobox(parent) would take the parent for haveArrow.
+    explicit DropCombobox(QWidget* parent);
     ~DropCombobox() override;
 
     // Pixel size of the combo's and the lists' text (and the height of a list row);

@@ -29,6 +29,7 @@ namespace Widget {
 class LCDWIDGETS_EXPORT EffectPictureWidget : public QFrame
 {
     Q_OBJECT
+    Q_PROPERTY(int contentFontSize READ contentFontSize WRITE setContentFontSize)
 public:
     // Layout constants at the reference font size 16.
     static constexpr int kReferenceFontSize = 16;

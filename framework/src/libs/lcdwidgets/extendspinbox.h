@@ -17,6 +17,7 @@ namespace Widget {
 class LCDWIDGETS_EXPORT ExtendSpinBox : public QFrame
 {
     Q_OBJECT
+    Q_PROPERTY(QString displayText READ displayText WRITE setDisplayText)
 public:
     explicit ExtendSpinBox(QFrame* parent = nullptr);
     ~ExtendSpinBox() override;

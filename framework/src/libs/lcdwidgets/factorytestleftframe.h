@@ -32,6 +32,7 @@ LCDWIDGETS_EXPORT QString factoryTestName(int test);
 class LCDWIDGETS_EXPORT FactoryTestLeftFrame : public QFrame
 {
     Q_OBJECT
+    Q_PROPERTY(int currentTest READ currentTest WRITE setCurrentTest)
 public:
     explicit FactoryTestLeftFrame(QWidget* parent = nullptr);
     ~FactoryTestLeftFrame() override;

@@ -19,6 +19,8 @@ namespace Widget {
 class LCDWIDGETS_EXPORT IPEdit : public QFrame
 {
     Q_OBJECT
+    Q_PROPERTY(QString ipText READ ipText WRITE setIpText)
+    Q_PROPERTY(bool enterSwitchEidt READ isEnterSwitchEidt WRITE setEnterSwitchEidt)
 public:
     explicit IPEdit(QWidget* parent = nullptr);
     ~IPEdit() override;

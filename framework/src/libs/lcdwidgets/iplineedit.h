@@ -20,6 +20,7 @@ namespace Widget {
 class LCDWIDGETS_EXPORT IPLineEdit : public QLineEdit
 {
     Q_OBJECT
+    Q_PROPERTY(QString ipText READ Iptext WRITE setIpText)
 public:
     explicit IPLineEdit(QWidget* parent = nullptr);
     ~IPLineEdit() override;

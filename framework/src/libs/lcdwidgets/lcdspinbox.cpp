@@ -85,6 +85,8 @@ QString suffixText(SuffixType type, bool degrees)
 // ===========================================================================
 // NQSpinBox
 
+NQSpinBox::NQSpinBox(QWidget* parent) : NQSpinBox(SuffixNone, QuitKeepValue, 0, parent) {}
+
 NQSpinBox::NQSpinBox(SuffixType suffix, QuitStrategy quit, int focusFrameMode, QWidget* parent)
     : QSpinBox(parent), m_focusFrameMode(focusFrameMode), m_quitStrategy(quit)
 {
@@ -305,6 +307,8 @@ void NQSpinBox::fixup(QString& input) const
 
 // ===========================================================================
 // NQDoubleSpinBox
+
+NQDoubleSpinBox::NQDoubleSpinBox(QWidget* parent) : NQDoubleSpinBox(SuffixNone, QuitKeepValue, parent) {}
 
 NQDoubleSpinBox::NQDoubleSpinBox(SuffixType suffix, QuitStrategy quit, QWidget* parent)
     : QDoubleSpinBox(parent), m_suffixType(suffix), m_quitStrategy(quit)

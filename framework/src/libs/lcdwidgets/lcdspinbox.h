@@ -21,6 +21,8 @@ public:
     // focusFrameMode 1 or 3 draws a frame while the box has the focus.
     NQSpinBox(SuffixType suffix = SuffixNone, QuitStrategy quit = QuitKeepValue, int focusFrameMode = 0,
               QWidget* parent = nullptr);
+    // Without suffix (forms built by uic or Designer).
+    explicit NQSpinBox(QWidget* parent);
     ~NQSpinBox() override;
 
     // Step of one knob detent at `level`.
@@ -75,6 +77,7 @@ class LCDWIDGETS_EXPORT NQDoubleSpinBox : public QDoubleSpinBox
     Q_OBJECT
 public:
     NQDoubleSpinBox(SuffixType suffix = SuffixNone, QuitStrategy quit = QuitKeepValue, QWidget* parent = nullptr);
+    explicit NQDoubleSpinBox(QWidget* parent);
     ~NQDoubleSpinBox() override;
 
     double getStep(float level) const;

@@ -40,8 +40,11 @@ class QMLineEdit;
 class LCDWIDGETS_EXPORT LineEditorWidget : public CommonItemType
 {
     Q_OBJECT
+    Q_PROPERTY(Kind kind READ kind)
+    Q_PROPERTY(QString unit READ unit WRITE setUnit)
 public:
     enum Kind { KnobText = 0, PadText = 1 };
+    Q_ENUM(Kind)
 
     explicit LineEditorWidget(QWidget* parent = nullptr, Kind kind = KnobText);
     ~LineEditorWidget() override;

@@ -26,6 +26,7 @@ namespace Widget {
 class LCDWIDGETS_EXPORT MultiBtnControl : public MultiWidgetControl
 {
     Q_OBJECT
+    Q_PROPERTY(int contentFontSize READ contentFontSize WRITE setContentFontSize)
 public:
     explicit MultiBtnControl(QWidget* parent = nullptr);
     ~MultiBtnControl() override;

@@ -48,6 +48,8 @@ class NQSpinBox;
 class LCDWIDGETS_EXPORT MultipleSpinBoxItem : public QFrame
 {
     Q_OBJECT
+    Q_PROPERTY(QString title READ title WRITE setTitle)
+    Q_PROPERTY(bool current READ isCurrent WRITE setCurrent)
 public:
     MultipleSpinBoxItem(QString const& title, SuffixType suffix = SuffixNone, QWidget* parent = nullptr);
     ~MultipleSpinBoxItem() override;

@@ -40,6 +40,7 @@ class NQSpinBox;
 class LCDWIDGETS_EXPORT MultiSpinBox : public CommonItemType
 {
     Q_OBJECT
+    Q_PROPERTY(QStringList captions READ captions WRITE setCaptions)
 public:
     static constexpr int kMaxFields = 8;
 

@@ -38,6 +38,9 @@ namespace Widget {
 class LCDWIDGETS_EXPORT NDoubleLineEdit : public QLineEdit
 {
     Q_OBJECT
+    Q_PROPERTY(int decimals READ decimals WRITE setDecimals)
+    Q_PROPERTY(double singleStep READ singleStep WRITE setSingleStep)
+    Q_PROPERTY(double value READ value WRITE setValue)
 public:
     explicit NDoubleLineEdit(QWidget* parent = nullptr);
     ~NDoubleLineEdit() override;

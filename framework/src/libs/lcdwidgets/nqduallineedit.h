@@ -18,6 +18,9 @@ namespace Widget {
 class LCDWIDGETS_EXPORT NQDualLineEdit : public QFrame
 {
     Q_OBJECT
+    Q_PROPERTY(QString separator READ separator WRITE setSeparator)
+    Q_PROPERTY(int singleStep READ singleStep WRITE setSingleStep)
+    Q_PROPERTY(QSize value READ value WRITE setValue)
 public:
     explicit NQDualLineEdit(QWidget* parent = nullptr);
     ~NQDualLineEdit() override;

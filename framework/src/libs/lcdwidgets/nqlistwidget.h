@@ -27,6 +27,8 @@ namespace Widget {
 class LCDWIDGETS_EXPORT NQListWidget : public QListWidget
 {
     Q_OBJECT
+    Q_PROPERTY(int contentFontSize READ contentFontSize WRITE setContentFontSize)
+    Q_PROPERTY(bool wrapText READ wrapText WRITE setWrapText)
 public:
     static constexpr int kScrollInterval = 50; // ms a scroll tick
 

@@ -33,6 +33,7 @@ namespace Widget {
 class LCDWIDGETS_EXPORT NSignalLineEdit : public QLineEdit
 {
     Q_OBJECT
+    Q_PROPERTY(bool editOnFocus READ editOnFocus WRITE setEditOnFocus)
 public:
     explicit NSignalLineEdit(QWidget* parent = nullptr);
     ~NSignalLineEdit() override;

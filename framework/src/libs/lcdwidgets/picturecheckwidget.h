@@ -39,6 +39,9 @@ namespace Widget {
 class LCDWIDGETS_EXPORT PictureCheckWidget : public QFrame
 {
     Q_OBJECT
+    Q_PROPERTY(int columns READ columns WRITE setColumns)
+    Q_PROPERTY(QSize pictureSize READ pictureSize WRITE setPictureSize)
+    Q_PROPERTY(int contentFontSize READ contentFontSize WRITE setContentFontSize)
 public:
     static constexpr int kDefaultColumns = 4;
     static constexpr int kDefaultFontSize = 20;

@@ -32,6 +32,12 @@ namespace Widget {
 class LCDWIDGETS_EXPORT PreviewWidget : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(QSize canvasSize READ canvasSize WRITE setCanvasSize)
+    Q_PROPERTY(int contentFontSize READ contentFontSize WRITE setContentFontSize)
+    Q_PROPERTY(QColor backgroundColor READ backgroundColor WRITE setBackgroundColor)
+    Q_PROPERTY(QColor frameColor READ frameColor WRITE setFrameColor)
+    Q_PROPERTY(QColor highlightColor READ highlightColor WRITE setHighlightColor)
+    Q_PROPERTY(QColor textColor READ textColor WRITE setTextColor)
     Q_PROPERTY(QColor backgroundColor READ backgroundColor WRITE setBackgroundColor)
     Q_PROPERTY(QColor frameColor READ frameColor WRITE setFrameColor)
     Q_PROPERTY(QColor highlightColor READ highlightColor WRITE setHighlightColor)

@@ -23,6 +23,8 @@ namespace Widget {
 class LCDWIDGETS_EXPORT ProgressBarCtr : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(int count READ count WRITE setCount)
+    Q_PROPERTY(double currentValue READ currentValue WRITE setCurrentValue)
 public:
     explicit ProgressBarCtr(QRect rect, QWidget* parent = nullptr);
     ~ProgressBarCtr() override;

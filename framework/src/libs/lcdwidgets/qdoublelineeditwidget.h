@@ -20,6 +20,9 @@ class NDoubleLineEdit;
 class LCDWIDGETS_EXPORT QDoubleLineEditWidget : public QFrame
 {
     Q_OBJECT
+    Q_PROPERTY(QString title READ title WRITE setTitle)
+    Q_PROPERTY(QString unit READ unit WRITE setUnit)
+    Q_PROPERTY(double value READ value WRITE setValue)
 public:
     explicit QDoubleLineEditWidget(QString const& title = QString(), QString const& unit = QString(),
                                    QWidget* parent = nullptr);

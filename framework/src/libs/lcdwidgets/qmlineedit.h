@@ -39,6 +39,8 @@ namespace Widget {
 class LCDWIDGETS_EXPORT QMLineEdit : public QLineEdit
 {
     Q_OBJECT
+    Q_PROPERTY(QString characterSet READ characterSet WRITE setCharacterSet)
+    Q_PROPERTY(int textMaxLength READ textMaxLength WRITE setTextMaxLength)
 public:
     explicit QMLineEdit(QWidget* parent = nullptr);
     ~QMLineEdit() override;

@@ -20,6 +20,9 @@ class NSignalLineEdit;
 class LCDWIDGETS_EXPORT QSignalLineEditWidget : public QFrame
 {
     Q_OBJECT
+    Q_PROPERTY(QString title READ title WRITE setTitle)
+    Q_PROPERTY(QString unit READ unit WRITE setUnit)
+    Q_PROPERTY(QString text READ text WRITE setText)
 public:
     explicit QSignalLineEditWidget(QString const& title = QString(), QString const& unit = QString(),
                                    QWidget* parent = nullptr);

@@ -24,6 +24,7 @@ namespace Widget {
 class LCDWIDGETS_EXPORT ResetApplyWidget : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(bool enable READ getEnable WRITE setEnable)
 public:
     // `type` 1: Reset only, 2: Apply only, 3: both. The bar is created without a
     // parent (the page's layout places it); `parent` is kept as the widget whose

@@ -19,6 +19,7 @@ namespace Widget {
 class LCDWIDGETS_EXPORT SwitchControl : public QFrame
 {
     Q_OBJECT
+    Q_PROPERTY(bool toggle READ isToggled WRITE setToggle)
 public:
     explicit SwitchControl(QWidget* parent = nullptr);
     ~SwitchControl() override;
@@ -66,6 +67,7 @@ private:
 class LCDWIDGETS_EXPORT SwitchWidget : public QFrame
 {
     Q_OBJECT
+    Q_PROPERTY(bool toggle READ getToggle WRITE setToggle)
 public:
     explicit SwitchWidget(QWidget* parent = nullptr);
     ~SwitchWidget() override;

@@ -33,6 +33,7 @@ namespace Widget {
 class LCDWIDGETS_EXPORT TypeColorAdjust : public CommonItemType
 {
     Q_OBJECT
+    Q_PROPERTY(QColor color READ color WRITE setColor)
 public:
     explicit TypeColorAdjust(QWidget* parent = nullptr);
     ~TypeColorAdjust() override;

@@ -21,6 +21,8 @@ struct LCDWIDGETS_HIDDEN TypeFloatAdjust::Impl
     QLabel* valueLabel = nullptr;
 };
 
+TypeFloatAdjust::TypeFloatAdjust(QWidget* parent) : TypeFloatAdjust(SuffixNone, QuitKeepValue, parent) {}
+
 TypeFloatAdjust::TypeFloatAdjust(SuffixType suffix, QuitStrategy quit, QWidget* parent, int commonWidgetType)
     : CommonItemType(parent), d(std::make_unique<Impl>())
 {
@@ -117,6 +119,31 @@ void TypeFloatAdjust::setContentFontSize(int size)
 void TypeFloatAdjust::setDecimals(int decimals) { d->spinBox->setDecimals(decimals); }
 
 int TypeFloatAdjust::getCommonWidgetType() const { return d->spinBox->property("commonWidgetType").toInt(); }
+
+// ---------------------------------------------------------------------------
+// Properties
+
+double TypeFloatAdjust::minimum() const { return d->spinBox->minimum(); }
+
+double TypeFloatAdjust::maximum() const { return d->spinBox->maximum(); }
+
+void TypeFloatAdjust::setMinimum(double minimum)
+{
+    setRange(static_cast<float>(minimum), static_cast<float>(d->spinBox->maximum()));
+}
+
+void TypeFloatAdjust::setMaximum(double maximum)
+{
+    setRange(static_cast<float>(d->spinBox->minimum()), static_cast<float>(maximum));
+}
+
+double TypeFloatAdjust::singleStep() const { return d->spinBox->singleStep(); }
+
+int TypeFloatAdjust::decimals() const { return d->spinBox->decimals(); }
+
+double TypeFloatAdjust::value() const { return d->spinBox->value(); }
+
+void TypeFloatAdjust::setValue(double value) { setLabelValue(QVariant(value)); }
 
 } // namespace Widget
 } // namespace LCD

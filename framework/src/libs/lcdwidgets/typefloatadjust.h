@@ -17,8 +17,15 @@ class NQDoubleSpinBox;
 class LCDWIDGETS_EXPORT TypeFloatAdjust : public CommonItemType
 {
     Q_OBJECT
+    Q_PROPERTY(int decimals READ decimals WRITE setDecimals)
+    Q_PROPERTY(double minimum READ minimum WRITE setMinimum)
+    Q_PROPERTY(double maximum READ maximum WRITE setMaximum)
+    Q_PROPERTY(double singleStep READ singleStep WRITE setSingleStep)
+    Q_PROPERTY(double value READ value WRITE setValue)
 public:
     TypeFloatAdjust(SuffixType suffix, QuitStrategy quit, QWidget* parent = nullptr, int commonWidgetType = 0);
+    // A plain row without suffix, kept when left (forms built by uic or Designer).
+    explicit TypeFloatAdjust(QWidget* parent = nullptr);
     ~TypeFloatAdjust() override;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -37,6 +44,18 @@ public:
 
     void setDecimals(int decimals);
     int getCommonWidgetType() const;
+
+    // The spin box's settings, as the property editor reads and writes them.
+    double minimum() const;
+    double maximum() const;
+    // One bound at a time; the other stays.
+    void setMinimum(double minimum);
+    void setMaximum(double maximum);
+    double singleStep() const;
+    int decimals() const;
+    double value() const;
+    // Sets the value without reporting it (as setLabelValue).
+    void setValue(double value);
 
 private:
     struct Impl;

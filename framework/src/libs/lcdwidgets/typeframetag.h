@@ -26,6 +26,9 @@ namespace Widget {
 class LCDWIDGETS_EXPORT TypeFrameTag : public CommonItemType
 {
     Q_OBJECT
+    Q_PROPERTY(QString tagText READ tagText WRITE setTagText)
+    Q_PROPERTY(QColor tagColor READ tagColor WRITE setTagColor)
+    Q_PROPERTY(Kind tagKind READ tagKind WRITE setTagKind)
 public:
     enum Kind { None = 0, Program, Preview, Source, Custom };
     Q_ENUM(Kind)

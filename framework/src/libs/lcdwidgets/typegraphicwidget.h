@@ -25,6 +25,7 @@ namespace Widget {
 class LCDWIDGETS_EXPORT TypeGraphicWidget : public CommonItemType
 {
     Q_OBJECT
+    Q_PROPERTY(QString picture READ picturePath WRITE setPicture)
 public:
     explicit TypeGraphicWidget(QWidget* parent = nullptr);
     ~TypeGraphicWidget() override;

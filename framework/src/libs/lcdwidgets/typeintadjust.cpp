@@ -22,6 +22,8 @@ struct LCDWIDGETS_HIDDEN TypeIntAdjust::Impl
     QVariant value = QVariant(0);
 };
 
+TypeIntAdjust::TypeIntAdjust(QWidget* parent) : TypeIntAdjust(SuffixNone, QuitKeepValue, parent) {}
+
 TypeIntAdjust::TypeIntAdjust(SuffixType suffix, QuitStrategy quit, QWidget* parent, int commonWidgetType)
     : CommonItemType(parent), d(std::make_unique<Impl>())
 {
@@ -167,6 +169,23 @@ void TypeIntAdjust::setSpinBoxWidth()
 }
 
 int TypeIntAdjust::getCommonWidgetType() const { return d->spinBox->property("commonWidgetType").toInt(); }
+
+// ---------------------------------------------------------------------------
+// Properties
+
+int TypeIntAdjust::minimum() const { return d->spinBox->minimum(); }
+
+int TypeIntAdjust::maximum() const { return d->spinBox->maximum(); }
+
+void TypeIntAdjust::setMinimum(int minimum) { setRangeMin(minimum); }
+
+void TypeIntAdjust::setMaximum(int maximum) { setRangeMax(maximum); }
+
+int TypeIntAdjust::singleStep() const { return d->spinBox->singleStep(); }
+
+int TypeIntAdjust::value() const { return d->spinBox->value(); }
+
+void TypeIntAdjust::setValue(int value) { setLabelValue(QVariant(value)); }
 
 } // namespace Widget
 } // namespace LCD

@@ -21,8 +21,14 @@ class NQSpinBox;
 class LCDWIDGETS_EXPORT TypeIntAdjust : public CommonItemType
 {
     Q_OBJECT
+    Q_PROPERTY(int minimum READ minimum WRITE setMinimum)
+    Q_PROPERTY(int maximum READ maximum WRITE setMaximum)
+    Q_PROPERTY(int singleStep READ singleStep WRITE setSingleStep)
+    Q_PROPERTY(int value READ value WRITE setValue)
 public:
     TypeIntAdjust(SuffixType suffix, QuitStrategy quit, QWidget* parent = nullptr, int commonWidgetType = 0);
+    // A plain row without suffix, kept when left (forms built by uic or Designer).
+    explicit TypeIntAdjust(QWidget* parent = nullptr);
     ~TypeIntAdjust() override;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -50,6 +56,17 @@ public:
 
     // The row's value as last reported (an int).
     QVariant currentValue() const;
+
+    // The spin box's settings, as the property editor reads and writes them.
+    int minimum() const;
+    int maximum() const;
+    // setRangeMin and setRangeMax under the names a form sets.
+    void setMinimum(int minimum);
+    void setMaximum(int maximum);
+    int singleStep() const;
+    int value() const;
+    // Sets the value without reporting it (as setLabelValue).
+    void setValue(int value);
 
 private:
     void createWidgets(SuffixType suffix, QuitStrategy quit, int commonWidgetType);

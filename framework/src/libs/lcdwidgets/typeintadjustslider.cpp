@@ -23,6 +23,11 @@ struct LCDWIDGETS_HIDDEN TypeIntAdjustSlider::Impl
     QSlider* slider = nullptr;
 };
 
+TypeIntAdjustSlider::TypeIntAdjustSlider(QWidget* parent)
+    : TypeIntAdjustSlider(SuffixNone, QuitKeepValue, Qt::Horizontal, parent)
+{
+}
+
 TypeIntAdjustSlider::TypeIntAdjustSlider(SuffixType suffix, QuitStrategy quit, Qt::Orientation orientation,
                                          QWidget* parent, int commonWidgetType)
     : CommonItemType(parent), d(std::make_unique<Impl>())
@@ -165,6 +170,23 @@ void TypeIntAdjustSlider::setSpinBoxWidth()
 }
 
 int TypeIntAdjustSlider::getCommonWidgetType() const { return d->spinBox->property("commonWidgetType").toInt(); }
+
+// ---------------------------------------------------------------------------
+// Properties
+
+int TypeIntAdjustSlider::minimum() const { return d->spinBox->minimum(); }
+
+int TypeIntAdjustSlider::maximum() const { return d->spinBox->maximum(); }
+
+void TypeIntAdjustSlider::setMinimum(int minimum) { setRangeMin(minimum); }
+
+void TypeIntAdjustSlider::setMaximum(int maximum) { setRangeMax(maximum); }
+
+int TypeIntAdjustSlider::singleStep() const { return d->spinBox->singleStep(); }
+
+int TypeIntAdjustSlider::value() const { return d->spinBox->value(); }
+
+void TypeIntAdjustSlider::setValue(int value) { setLabelValue(QVariant(value)); }
 
 } // namespace Widget
 } // namespace LCD

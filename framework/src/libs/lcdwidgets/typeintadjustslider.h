@@ -19,9 +19,15 @@ class NQSpinBox;
 class LCDWIDGETS_EXPORT TypeIntAdjustSlider : public CommonItemType
 {
     Q_OBJECT
+    Q_PROPERTY(int minimum READ minimum WRITE setMinimum)
+    Q_PROPERTY(int maximum READ maximum WRITE setMaximum)
+    Q_PROPERTY(int singleStep READ singleStep WRITE setSingleStep)
+    Q_PROPERTY(int value READ value WRITE setValue)
 public:
     TypeIntAdjustSlider(SuffixType suffix, QuitStrategy quit, Qt::Orientation orientation, QWidget* parent = nullptr,
                         int commonWidgetType = 0);
+    // A plain horizontal row without suffix (forms built by uic or Designer).
+    explicit TypeIntAdjustSlider(QWidget* parent = nullptr);
     ~TypeIntAdjustSlider() override;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -40,6 +46,17 @@ public:
     void setRoundOff(bool on);
     void setSpinBoxWidth();
     int getCommonWidgetType() const;
+
+    // The spin box's settings, as the property editor reads and writes them.
+    int minimum() const;
+    int maximum() const;
+    // setRangeMin and setRangeMax under the names a form sets.
+    void setMinimum(int minimum);
+    void setMaximum(int maximum);
+    int singleStep() const;
+    int value() const;
+    // Sets the value without reporting it (as setLabelValue).
+    void setValue(int value);
 
 private:
     void setSliderStatus(char const* status);

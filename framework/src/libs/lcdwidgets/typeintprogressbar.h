@@ -28,6 +28,7 @@ namespace Widget {
 class LCDWIDGETS_EXPORT TypeIntProgressBar : public CommonItemType
 {
     Q_OBJECT
+    Q_PROPERTY(int value READ value WRITE setValue)
 public:
     explicit TypeIntProgressBar(QWidget* parent = nullptr);
     ~TypeIntProgressBar() override;

@@ -17,6 +17,7 @@ namespace Widget {
 class LCDWIDGETS_EXPORT TypeItemMore : public CommonItemType
 {
     Q_OBJECT
+    Q_PROPERTY(LoadingState loadingState READ loadingState WRITE setLoadingState)
 public:
     enum LoadingState { NotLoading = 0, Loading, LoadSucceeded, LoadFailed };
     Q_ENUM(LoadingState)

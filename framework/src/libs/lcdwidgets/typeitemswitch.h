@@ -19,6 +19,7 @@ class SwitchControl;
 class LCDWIDGETS_EXPORT TypeItemSwitch : public CommonItemType
 {
     Q_OBJECT
+    Q_PROPERTY(bool toggle READ getToggle WRITE setToggle)
 public:
     explicit TypeItemSwitch(QWidget* parent = nullptr);
     ~TypeItemSwitch() override;

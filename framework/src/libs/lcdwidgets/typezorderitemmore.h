@@ -29,6 +29,8 @@ namespace Widget {
 class LCDWIDGETS_EXPORT TypeZOrderItemMore : public CommonItemType
 {
     Q_OBJECT
+    Q_PROPERTY(int layerCount READ layerCount WRITE setLayerCount)
+    Q_PROPERTY(int zOrder READ zOrder WRITE setZOrder)
 public:
     explicit TypeZOrderItemMore(QWidget* parent = nullptr);
     ~TypeZOrderItemMore() override;
