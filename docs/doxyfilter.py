@@ -118,7 +118,12 @@ def filter_lines(path, lines):
                 continue
             for para in paragraphs:
                 if para and re.match(r'^%s\b' % re.escape(short), para[0]):
-                    out[index] = '/** %s */ %s' % (' '.join(para), lines[index])
+                    text = ' '.join(para)
+                    # "Name: does this" reads "Does this" on the class's own page.
+                    if text.startswith(short + ': '):
+                        text = text[len(short) + 2:]
+                        text = text[:1].upper() + text[1:]
+                    out[index] = '/** %s */ %s' % (text, lines[index])
                     break
         out[0] = '/** ' + comment_text(lines[0])
         for k in range(1, lead_end):
