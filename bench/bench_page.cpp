@@ -83,7 +83,11 @@ CommonItemType* libraryRow(int i, QWidget* parent)
 
 // --- The bare composite: the same visible structure in plain Qt -------------
 
-QWidget* bareRow(int i, QWidget* parent)
+// `themedIcons`: the row's buttons also carry the theme's icons, as the library's
+// rows do (the edit mark of a numeric row, the tip mark, the arrow). Qt reads an
+// icon's file header each time it computes a style rule with `image: url(...)` (a
+// few times per polish), which costs system calls that instruction counts miss.
+QWidget* bareRow(int i, QWidget* parent, bool themedIcons = false)
 {
     auto* row = new QFrame(parent);
     row->setFixedHeight(kRowHeight);
@@ -133,6 +137,19 @@ QWidget* bareRow(int i, QWidget* parent)
     if (i % 4 == 0 || i % 4 == 2)
         right->hide();
     line->addWidget(right);
+    if (themedIcons) {
+        if (i % 4 == 1) {
+            right->setObjectName(QStringLiteral("itemRightIconButton"));
+            right->setProperty("isIconListEdit", true);
+        } else if (i % 4 == 3) {
+            right->setProperty("isIconListArrow", true);
+        } else if (i % 4 == 2) {
+            auto* mark = new QPushButton(value);
+            mark->setProperty("isTipItemIcon", true);
+            mark->setFixedSize(24, 24);
+            valueLayout->insertWidget(0, mark);
+        }
+    }
 
     column->addLayout(line);
     auto* underLine = new QLabel(row);
@@ -150,6 +167,7 @@ struct Measure
 
 Measure libraryMeasure;
 Measure bareMeasure;
+Measure bareIconsMeasure;
 
 size_t heapInUse()
 {
@@ -177,7 +195,15 @@ void runPages(benchmark::State& state, std::function<QWidget*(int, QWidget*)> co
     state.counters["heapKiB"] = measure.heapBytes / 1024.0;
 }
 
-void BM_BarePage(benchmark::State& state) { runPages(state, bareRow, bareMeasure); }
+void BM_BarePage(benchmark::State& state)
+{
+    runPages(state, [](int i, QWidget* parent) { return bareRow(i, parent); }, bareMeasure);
+}
+
+void BM_BareIconsPage(benchmark::State& state)
+{
+    runPages(state, [](int i, QWidget* parent) { return bareRow(i, parent, true); }, bareIconsMeasure);
+}
 
 void BM_LibraryPage(benchmark::State& state)
 {
@@ -207,13 +233,14 @@ int main(int argc, char** argv)
         QString const arg = QString::fromLocal8Bit(argv[i]);
         if (!arg.startsWith(QStringLiteral("--profile=")))
             continue;
-        bool const bare = arg.endsWith(QStringLiteral("bare"));
+        bool const bare = arg.endsWith(QStringLiteral("bare")) || arg.endsWith(QStringLiteral("bare-icons"));
+        bool const icons = arg.endsWith(QStringLiteral("bare-icons"));
         int const pages = qEnvironmentVariableIntValue("BENCH_PAGES") > 0 ? qEnvironmentVariableIntValue("BENCH_PAGES") : 10;
         for (int n = 0; n < pages; ++n) {
             auto page = std::make_unique<QWidget>();
             auto* layout = new QVBoxLayout(page.get());
             for (int r = 0; r < kRows; ++r)
-                layout->addWidget(bare ? bareRow(r, page.get()) : libraryRow(r, page.get()));
+                layout->addWidget(bare ? bareRow(r, page.get(), icons) : libraryRow(r, page.get()));
             page->show();
             QApplication::processEvents();
         }
@@ -223,6 +250,8 @@ int main(int argc, char** argv)
     for (int round = 1; round <= kRounds; ++round) {
         benchmark::RegisterBenchmark(("BM_BarePage/round" + std::to_string(round)).c_str(), BM_BarePage)->MinTime(1.0);
         benchmark::RegisterBenchmark(("BM_LibraryPage/round" + std::to_string(round)).c_str(), BM_LibraryPage)
+            ->MinTime(1.0);
+        benchmark::RegisterBenchmark(("BM_BareIconsPage/round" + std::to_string(round)).c_str(), BM_BareIconsPage)
             ->MinTime(1.0);
     }
     benchmark::Initialize(&argc, argv);
@@ -239,6 +268,10 @@ int main(int argc, char** argv)
                     libraryMeasure.heapBytes / 1024.0);
         std::printf("ratio time %.2f (aim: at most 1.3), heap %.2f (aim: at most 1.25)\n", library / bare,
                     libraryMeasure.heapBytes / bareMeasure.heapBytes);
+        double const bareIcons = reporter.best("BM_BareIconsPage");
+        if (bareIcons > 0.0)
+            std::printf("(for reference: the bare composite with the rows' themed icons %.2f ms, ratio %.2f)\n",
+                        bareIcons / 1e6, library / bareIcons);
     }
     benchmark::Shutdown();
     return 0;

@@ -3,6 +3,7 @@
 #include "galleryhost.h"
 #include "itempage.h"
 #include "pages.h"
+#include "shotclasses.h"
 
 #include <lcdfwtranslatemanager.h>
 
@@ -129,6 +130,7 @@ void GalleryWindow::closeOtherWindows()
 int GalleryWindow::renderScreenshots(QString const& dir)
 {
     QDir().mkpath(dir);
+    clearScreenshotClasses();
     int written = 0;
     auto render = [&](int i, QString const& suffix, std::function<void()> const& setup) {
         showPage(i);
@@ -141,6 +143,8 @@ int GalleryWindow::renderScreenshots(QString const& dir)
         QApplication::processEvents();
         QString const name = QStringLiteral("%1-%2%3.png").arg(i + 1, 2, 10, QLatin1Char('0')).arg(pageId(i), suffix);
         bool const saved = grabScreen().save(QDir(dir).filePath(name));
+        if (saved)
+            noteScreenshotClasses(name);
         closeOtherWindows();
         setFixedSize(kWidth, kHeight);
         return saved;
@@ -157,6 +161,7 @@ int GalleryWindow::renderScreenshots(QString const& dir)
             closeOtherWindows();
         }
     }
+    writeScreenshotClasses(dir);
     return written;
 }
 

@@ -5,6 +5,7 @@
 #include "gallerycontext.h"
 #include "itempage.h"
 #include "pages.h"
+#include "shotclasses.h"
 
 #include <lcdwidgets.h>
 
@@ -478,8 +479,11 @@ ItemPage* buildDialogsPage(GalleryContext&)
             for (int i = 0; i < 3; ++i)
                 QApplication::processEvents();
             QImage const image = composite(window, dialog);
-            if (image.save(QDir(dir).filePath(QStringLiteral("%1-dialog-%2.png").arg(prefix, kind.id))))
+            QString const file = QDir(dir).filePath(QStringLiteral("%1-dialog-%2.png").arg(prefix, kind.id));
+            if (image.save(file)) {
+                noteScreenshotClasses(file);
                 ++written;
+            }
             shots << image;
             if (auto* waiting = qobject_cast<WaitingDialog*>(dialog))
                 waiting->hideWaitingDialog();

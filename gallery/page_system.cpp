@@ -7,6 +7,7 @@
 #include "itempage.h"
 #include "pagerow.h"
 #include "pages.h"
+#include "shotclasses.h"
 
 #include <lcdwidgets.h>
 
@@ -252,8 +253,11 @@ ItemPage* buildSystemPage(GalleryContext&)
         QWidget* window = page->window();
         int written = 0;
         auto save = [&](QImage const& image, QString const& id) {
-            if (image.save(QDir(dir).filePath(QStringLiteral("%1-system-%2.png").arg(prefix, id))))
+            QString const file = QDir(dir).filePath(QStringLiteral("%1-system-%2.png").arg(prefix, id));
+            if (image.save(file)) {
+                noteScreenshotClasses(file);
                 ++written;
+            }
         };
         auto settle = [] {
             for (int i = 0; i < 3; ++i)
