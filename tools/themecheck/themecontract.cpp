@@ -28,10 +28,6 @@ namespace ThemeContract {
 
 namespace {
 
-// Object names the library gives only so that code (its own, a host's, the tests)
-// can find a child; no theme rule is expected for them.
-QSet<QString> const kLookupOnlyNames = {};
-
 // Properties that keep a value for code (the host's data, a button's role or value,
 // a shown flag), set without a re-polish: they style nothing, and their values are
 // the host's.
@@ -53,8 +49,7 @@ bool hasStyleProperty(QWidget const* w)
 
 bool skippedObjectName(QString const& name)
 {
-    return name.isEmpty() || name.startsWith(QLatin1String("qt_")) || name.startsWith(QLatin1String("gallery"))
-           || kLookupOnlyNames.contains(name);
+    return name.isEmpty() || name.startsWith(QLatin1String("qt_")) || name.startsWith(QLatin1String("gallery"));
 }
 
 QString className(QObject const* o) { return QString::fromLatin1(o->metaObject()->className()); }

@@ -7,15 +7,18 @@
 //    any selector on P: false is the property's plain state, the look without it.
 //    Values a style sheet cannot compare (colours, sizes, pointers, lists) ask for a
 //    selector naming P.
-//  - every object name N that a widget carries: a selector #N;
+//  - every object name N on a widget that carries no style property: a selector #N.
+//    A widget with a style property is styled through it; its name serves lookups
+//    (the tests', a host's) and a theme may use it, but need not.
 //  - every image the library names (in a property, a style sheet, a running
-//    animation, or a literal path in its sources and in the host interface headers),
-//    and every image the sheet itself names with url(): a file of that name under the
-//    theme folder's images/.
+//    animation, or a literal path in its sources, forms and the host interface
+//    headers), and every image the sheet itself names with url(): a file of that name
+//    under the theme folder's images/.
 // Left out, because no theme styles them:
 //  - names Qt gives itself: properties "_q_*", object names "qt_*";
 //  - the demo host's own names, "gallery*" (the gallery styles them in its own sheet);
-//  - object names that only serve lookups (kLookupOnlyNames in themecontract.cpp).
+//  - properties that keep a value for code, not a look (kDataProperties in
+//    themecontract.cpp: a button's role or value, the host's texts, a shown flag).
 // The style sheet is read as text: comments are stripped, and only the selectors
 // (the text before each "{") count.
 #pragma once
