@@ -5,7 +5,8 @@
 //                                        from the folder of this program)
 //   lcdthemecheck --list                prints what the widgets set, then checks
 //
-// Prints what the theme lacks and exits with 1; exits with 0 when it lacks nothing.
+// Prints what the theme lacks and exits with 1; exits with 0 when it lacks nothing,
+// with 2 when the sheet cannot be read.
 #include "themecontract.h"
 
 #include <QApplication>
