@@ -8,6 +8,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -114,6 +115,20 @@ void TestThemeContract::brokenThemeIsReported()
     QCOMPARE(missing.size(), 3 + (m_contract.properties.value(QStringLiteral("itemTitleLabel")).size() - 1));
 
     QVERIFY(!ThemeContract::check(m_contract, dir.filePath(QStringLiteral("absent.qss"))).isEmpty());
+
+    // The program a host runs says the same, and fails.
+    QProcess program;
+    program.start(QStringLiteral(LCDTHEMECHECK_FILE), {broken.fileName()});
+    QVERIFY(program.waitForFinished(300000));
+    QCOMPARE(program.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(program.exitCode(), 1);
+    QString const out = QString::fromUtf8(program.readAllStandardOutput());
+    for (QString const& line : missing)
+        QVERIFY2(out.contains(line), qPrintable(line));
+    QVERIFY(out.contains(QStringLiteral("%1 missing").arg(missing.size())));
+    program.start(QStringLiteral(LCDTHEMECHECK_FILE), {dir.filePath(QStringLiteral("absent.qss"))});
+    QVERIFY(program.waitForFinished(30000));
+    QCOMPARE(program.exitCode(), 2);
 }
 
 QTEST_MAIN(TestThemeContract)
