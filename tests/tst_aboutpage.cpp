@@ -1,6 +1,7 @@
 // The about page: the standard and host rows, updates in place, the knob's walk
 // over the rows by level with the current-row marks, Back, rows that grow with
 // their text, language changes and bad input.
+#include "leakcheck.h"
 #include "knob.h"
 
 #include <aboutpage.h>
@@ -11,11 +12,15 @@
 
 using namespace LCD::Widget;
 
-class TestAboutPage : public QObject
+class TestAboutPage : public LeakCheckedTest
 {
     Q_OBJECT
 private slots:
-    void init() { QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false")); }
+    void init()
+    {
+        startLeakCheck();
+        QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
+    }
     void standardRowsAndUpdates();
     void knobWalksTheRows();
     void backAndUnusedKeys();

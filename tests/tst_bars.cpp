@@ -3,6 +3,7 @@
 // keys to the page, and re-translation.
 #include <lcdwidgets.h>
 
+#include "leakcheck.h"
 #include "knob.h"
 
 #include <QPointer>
@@ -53,7 +54,7 @@ void showAndLayout(QWidget* w, int width = 700)
 
 } // namespace
 
-class TestBars : public QObject
+class TestBars : public LeakCheckedTest
 {
     Q_OBJECT
 

@@ -3,6 +3,7 @@
 // modal), and the spinner-like value chooser.
 #include <lcdwidgets.h>
 
+#include "leakcheck.h"
 #include "knob.h"
 
 #include <QHBoxLayout>
@@ -67,7 +68,7 @@ struct ModalDriver
 
 } // namespace
 
-class TestButtonGroups : public QObject
+class TestButtonGroups : public LeakCheckedTest
 {
     Q_OBJECT
 

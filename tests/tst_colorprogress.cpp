@@ -1,5 +1,7 @@
 // The colour row (channels on the knob, the swatch, colour texts) and the progress
 // row (percentage inside the bar, 64-bit arithmetic, bad ranges and values).
+#include "leakcheck.h"
+
 #include <editorpage.h>
 #include <knob.h>
 #include <lcdwidgets.h>
@@ -15,7 +17,7 @@ using EditorTest::Page;
 using EditorTest::QtWarningWatch;
 using EditorTest::Recorder;
 
-class TestColorProgress : public QObject
+class TestColorProgress : public LeakCheckedTest
 {
     Q_OBJECT
 private slots:
@@ -24,7 +26,11 @@ private slots:
         QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
         QtWarningWatch::install();
     }
-    void cleanup() { QCOMPARE(QtWarningWatch::count(), 0); }
+    void cleanup()
+    {
+        QCOMPARE(QtWarningWatch::count(), 0);
+        endLeakCheck();
+    }
 
     void colorChannelsOnTheKnob();
     void colorValues();

@@ -2,6 +2,7 @@
 // font sizes, enabling, label wrapping, the under-line and the edit keys.
 #include <commonitemtype.h>
 
+#include "leakcheck.h"
 #include "knob.h"
 
 #include <QHBoxLayout>
@@ -51,7 +52,7 @@ QFont pixelFont(int px)
 
 } // namespace
 
-class TestCommonItemType : public QObject
+class TestCommonItemType : public LeakCheckedTest
 {
     Q_OBJECT
 private slots:

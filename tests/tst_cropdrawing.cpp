@@ -1,5 +1,7 @@
 // Crop drawing: the rectangles' data round trip, empty input, the view's 16:9 size
 // and its fit to the rectangles, the crop limits inside the picture, and the row.
+#include "leakcheck.h"
+
 #include <lcdwidgets.h>
 
 #include <QSignalSpy>
@@ -42,7 +44,7 @@ char* toString(ItemDataInfo const& i)
 }
 } // namespace QTest
 
-class TestCropDrawing : public QObject
+class TestCropDrawing : public LeakCheckedTest
 {
     Q_OBJECT
 

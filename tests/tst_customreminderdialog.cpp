@@ -1,6 +1,7 @@
 // The tile dialog: tiles by id, the ids returned from exec(), the z-order mode,
 // the knob keys (Left and Right do nothing), the centring of the visible tiles,
 // bad ids; the rounded plain dialog.
+#include "leakcheck.h"
 #include "modal.h"
 
 #include <customreminderdialog.h>
@@ -40,7 +41,7 @@ void fill(CustomReminderDialog& dialog)
 }
 } // namespace
 
-class TestCustomReminderDialog : public QObject
+class TestCustomReminderDialog : public LeakCheckedTest
 {
     Q_OBJECT
 private slots:

@@ -1,6 +1,7 @@
 // Dials: the step arithmetic of the knob, stepping and clamping, the animation and
 // its end value, the keys' signals, bad settings, painting and lifetime; the dial row
 // walked with the knob.
+#include "leakcheck.h"
 #include "knob.h"
 
 #include <lcdwidgets.h>
@@ -72,7 +73,7 @@ void press(QWidget* w, int key, QString const& text = QString())
 
 } // namespace
 
-class TestDashBoard : public QObject
+class TestDashBoard : public LeakCheckedTest
 {
     Q_OBJECT
 

@@ -2,6 +2,7 @@
 // while another modal runs, toasts whose timers outlive their callers, and a
 // thousand open/close cycles of every kind without a window, a modal loop or a
 // timer left behind.
+#include "leakcheck.h"
 #include "modal.h"
 
 #include <blockdialog.h>
@@ -49,7 +50,7 @@ void deleteWhenModal(QWidget* victim)
 }
 } // namespace
 
-class TestDialogLifetime : public QObject
+class TestDialogLifetime : public LeakCheckedTest
 {
     Q_OBJECT
 private slots:

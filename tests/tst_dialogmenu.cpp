@@ -2,6 +2,8 @@
 // middle (spacers, list height, scroll), moving over hidden rows without wrapping,
 // the signals of a commit and of an Escape, the refusals and their messages, the
 // row's placement over the home frame and its list interface.
+#include "leakcheck.h"
+
 #include <knob.h>
 #include <lcdwidgets.h>
 
@@ -90,21 +92,20 @@ struct Recorder
 
 } // namespace
 
-class TestDialogMenu : public QObject
+class TestDialogMenu : public LeakCheckedTest
 {
     Q_OBJECT
 private slots:
     void initTestCase() { QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false")); }
     void init()
     {
+        startLeakCheck();
         QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
-        m_widgets = QApplication::allWidgets().size();
     }
     void cleanup()
     {
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QCOMPARE(QApplication::allWidgets().size(), m_widgets);
         QVERIFY(!QApplication::activeModalWidget());
+        endLeakCheck();
     }
 
     void construction();
@@ -126,8 +127,6 @@ private slots:
     void rowMessages();
     void rowDestroyedWhileOpen();
 
-private:
-    int m_widgets = 0;
 };
 
 void TestDialogMenu::construction()

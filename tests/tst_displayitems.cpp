@@ -1,6 +1,7 @@
 // The display rows that react to the knob or carry state: the tick list, the text field
 // (worked with real key events), the "more" row's loading animation and area marks, the
 // arrow row, the key/value and wrapped rows, the progress row and the bordered row.
+#include "leakcheck.h"
 #include "knob.h"
 
 #include <lcdwidgets.h>
@@ -16,7 +17,7 @@
 
 using namespace LCD::Widget;
 
-class TestDisplayItems : public QObject
+class TestDisplayItems : public LeakCheckedTest
 {
     Q_OBJECT
 private slots:

@@ -2,6 +2,8 @@
 // count, where the standard popup goes inside the home rectangle, the panel's own
 // list (placement, keys, hidden rows, scrolling text), the combo's width, the
 // knob-kept combo box, and the drop-down choice row built on it.
+#include "leakcheck.h"
+
 #include <knob.h>
 #include <lcdwidgets.h>
 
@@ -70,16 +72,10 @@ struct Recorder
 
 } // namespace
 
-class TestDropCombobox : public QObject
+class TestDropCombobox : public LeakCheckedTest
 {
     Q_OBJECT
 private slots:
-    void init() { m_widgets = QApplication::allWidgets().size(); }
-    void cleanup()
-    {
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QCOMPARE(QApplication::allWidgets().size(), m_widgets);
-    }
 
     void popupChoice_data();
     void popupChoice();
@@ -103,8 +99,6 @@ private slots:
     void choiceRowKeyFilter();
     void choiceRowListInterface();
 
-private:
-    int m_widgets = 0;
 };
 
 void TestDropCombobox::popupChoice_data()

@@ -4,6 +4,7 @@
 // preview plays. The theme's own effect pictures and previews are used.
 #include <lcdwidgets.h>
 
+#include "leakcheck.h"
 #include "knob.h"
 
 #include <QGridLayout>
@@ -59,7 +60,7 @@ QList<bool> checks(EffectPictureWidget const* w)
 
 } // namespace
 
-class TestEffectPicture : public QObject
+class TestEffectPicture : public LeakCheckedTest
 {
     Q_OBJECT
 

@@ -1,6 +1,8 @@
 // Factory test page: each test driven by real knob keys through the page (list, test,
 // result mark, summary, focus back to the list), the full-screen fills and the verdict,
 // the T-bar read through the host's keyboard proxy, and refused bad input.
+#include "leakcheck.h"
+
 #include <fakehost.h>
 #include <knob.h>
 #include <lcdwidgets.h>
@@ -59,7 +61,7 @@ int R(FactoryTestResult r) { return int(r); }
 
 } // namespace
 
-class TestFactoryTest : public QObject
+class TestFactoryTest : public LeakCheckedTest
 {
     Q_OBJECT
 private slots:

@@ -1,5 +1,6 @@
 // The gallery's Dialogs page, worked with the knob: every row opens its dialog on
 // the press, and the page has the knob again once the dialog is gone.
+#include "leakcheck.h"
 #include "gallerycontext.h"
 #include "galleryhost.h"
 #include "gallerywindow.h"
@@ -12,7 +13,7 @@
 
 #include <QtTest>
 
-class TestGalleryDialogs : public QObject
+class TestGalleryDialogs : public LeakCheckedTest
 {
     Q_OBJECT
 private slots:

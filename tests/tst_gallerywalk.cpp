@@ -1,6 +1,7 @@
 // Works every gallery page the way a user does with the panel: every row is made
 // current, pressed, turned slowly and fast, and left with Escape. Each edit that
 // starts must end and give the knob back to the page.
+#include "leakcheck.h"
 #include "gallerycontext.h"
 #include "galleryhost.h"
 #include "gallerywindow.h"
@@ -13,7 +14,7 @@
 #include <QSignalSpy>
 #include <QtTest>
 
-class TestGalleryWalk : public QObject
+class TestGalleryWalk : public LeakCheckedTest
 {
     Q_OBJECT
 private slots:

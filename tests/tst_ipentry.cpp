@@ -2,6 +2,8 @@
 // addresses and their warnings, knob steps by level, octet limits, the two knob modes
 // of IPLineEdit, the row's edit protocol, IPEdit's parsing, focus and key rules, and
 // the pad's form and key routing.
+#include "leakcheck.h"
+
 #include <knob.h>
 #include <lcdwidgets.h>
 
@@ -54,7 +56,7 @@ void expectRefused(QString const& text)
 
 } // namespace
 
-class TestIpEntry : public QObject
+class TestIpEntry : public LeakCheckedTest
 {
     Q_OBJECT
 private slots:

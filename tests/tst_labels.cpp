@@ -1,4 +1,6 @@
 // RollLabel: elide or roll, the marquee's timer and seamless wrap; EllipsisLabel.
+#include "leakcheck.h"
+
 #include <ellipsislabel.h>
 #include <rolllabel.h>
 
@@ -6,7 +8,7 @@
 #include <QTimer>
 #include <QtTest>
 
-class TestLabels : public QObject
+class TestLabels : public LeakCheckedTest
 {
     Q_OBJECT
 private slots:
@@ -26,6 +28,7 @@ private:
 
 void TestLabels::init()
 {
+    startLeakCheck();
     m_font = QFont();
     m_font.setPixelSize(20);
 }

@@ -1,6 +1,8 @@
 // Layer rows, tags, picture rows and the layer preview: moving a layer with the knob
 // (levels, ends, signal order, leaving the edit), the preview's geometry, order and
 // highlight, and the refusals of bad input with their messages.
+#include "leakcheck.h"
+
 #include <knob.h>
 #include <lcdwidgets.h>
 
@@ -68,7 +70,7 @@ ItemDataInfoArray fourLayers()
 
 } // namespace
 
-class TestLayers : public QObject
+class TestLayers : public LeakCheckedTest
 {
     Q_OBJECT
 private slots:

@@ -1,6 +1,8 @@
 // The line edits: the floating-point edit's knob steps, typed input and edit
 // signals; the signalling line edit's sequence for a number pad; the knob-only text
 // entry; the titled widgets; and the text row's protocol in both kinds.
+#include "leakcheck.h"
+
 #include <editorpage.h>
 #include <knob.h>
 #include <lcdwidgets.h>
@@ -16,7 +18,7 @@ using EditorTest::Page;
 using EditorTest::QtWarningWatch;
 using EditorTest::Recorder;
 
-class TestLineEdits : public QObject
+class TestLineEdits : public LeakCheckedTest
 {
     Q_OBJECT
 private slots:
@@ -25,7 +27,11 @@ private slots:
         QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
         QtWarningWatch::install();
     }
-    void cleanup() { QCOMPARE(QtWarningWatch::count(), 0); }
+    void cleanup()
+    {
+        QCOMPARE(QtWarningWatch::count(), 0);
+        endLeakCheck();
+    }
 
     void doubleKnobSteps_data();
     void doubleKnobSteps();

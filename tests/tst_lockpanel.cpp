@@ -1,6 +1,7 @@
 // The panel lock: what it swallows while locked (keys, knob turns, the wheel,
 // shortcuts), the hold-to-unlock gesture and what the page sees of it, the reminder
 // and the indicator, and bad input.
+#include "leakcheck.h"
 #include "knob.h"
 
 #include <lockpanel.h>
@@ -37,11 +38,15 @@ void send(QWidget* w, QEvent::Type type, int key, bool autoRepeat = false, QStri
 }
 } // namespace
 
-class TestLockPanel : public QObject
+class TestLockPanel : public LeakCheckedTest
 {
     Q_OBJECT
 private slots:
-    void init() { QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false")); }
+    void init()
+    {
+        startLeakCheck();
+        QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
+    }
     void lockSwallowsKeysAndShowsTheReminder();
     void holdingBackUnlocks();
     void shortPressDoesNotUnlock();

@@ -3,6 +3,7 @@
 // of the knob.
 #include <lcdwidgets.h>
 
+#include "leakcheck.h"
 #include "knob.h"
 
 #include <QAbstractButton>
@@ -43,7 +44,7 @@ TypeItemMultiBtn* formatRow(QWidget* parent)
 
 } // namespace
 
-class TestMultiChoiceItems : public QObject
+class TestMultiChoiceItems : public LeakCheckedTest
 {
     Q_OBJECT
 

@@ -3,6 +3,7 @@
 // Escape's restore, sizing; the check-box row's key table and setters.
 #include <lcdwidgets.h>
 
+#include "leakcheck.h"
 #include "knob.h"
 
 #include <QAbstractButton>
@@ -66,7 +67,7 @@ MultiBtnControl* threeButtons(QWidget* parent)
 
 } // namespace
 
-class TestMultiControls : public QObject
+class TestMultiControls : public LeakCheckedTest
 {
     Q_OBJECT
 

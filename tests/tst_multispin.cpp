@@ -1,6 +1,8 @@
 // The multi-value spin rows: the field-to-field walk of MultiSpinBox with its
 // per-field ranges, steps and signals, and the list walk of MultipleSpinBox with
 // the edit of one item at a time; both refuse bad indexes, ranges and values.
+#include "leakcheck.h"
+
 #include <editorpage.h>
 #include <knob.h>
 #include <lcdwidgets.h>
@@ -15,7 +17,7 @@ using EditorTest::Page;
 using EditorTest::QtWarningWatch;
 using EditorTest::Recorder;
 
-class TestMultiSpin : public QObject
+class TestMultiSpin : public LeakCheckedTest
 {
     Q_OBJECT
 private slots:
@@ -24,7 +26,11 @@ private slots:
         QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
         QtWarningWatch::install();
     }
-    void cleanup() { QCOMPARE(QtWarningWatch::count(), 0); }
+    void cleanup()
+    {
+        QCOMPARE(QtWarningWatch::count(), 0);
+        endLeakCheck();
+    }
 
     void multiWalksTheFields();
     void multiEscapeEndsAtOnce();

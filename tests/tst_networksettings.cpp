@@ -1,6 +1,8 @@
 // The network settings page: filling it from the host without applying, DHCP applying
 // at once, manual values applied with the button or key X, restore defaults with Z,
 // the knob's walk through the chooser and the three editors, and the edit signals.
+#include "leakcheck.h"
+
 #include <knob.h>
 #include <lcdwidgets.h>
 
@@ -45,7 +47,7 @@ struct Window
 
 } // namespace
 
-class TestNetworkSettings : public QObject
+class TestNetworkSettings : public LeakCheckedTest
 {
     Q_OBJECT
 private slots:

@@ -1,6 +1,8 @@
 // The numeric item rows: the integer row's width rule, variants and step guards, the
 // signal sequences of knob edits ended by Escape and Enter, swallowed key releases,
 // and the float, slider, dual-value and spin-adjust rows.
+#include "leakcheck.h"
+
 #include <knob.h>
 #include <lcdwidgets.h>
 #include <spinrow_p.h> // internal helpers, compiled into this test
@@ -73,7 +75,7 @@ struct Recorder
 
 } // namespace
 
-class TestNumericItems : public QObject
+class TestNumericItems : public LeakCheckedTest
 {
     Q_OBJECT
 private slots:

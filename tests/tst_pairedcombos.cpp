@@ -4,6 +4,7 @@
 // backup be the input.
 #include <lcdwidgets.h>
 
+#include "leakcheck.h"
 #include "knob.h"
 
 #include <QLoggingCategory>
@@ -78,13 +79,21 @@ QWidget* openList(TypeStringCombox* combo) { return combo->comboBox()->getCustom
 
 } // namespace
 
-class TestPairedCombos : public QObject
+class TestPairedCombos : public LeakCheckedTest
 {
     Q_OBJECT
 
 private slots:
-    void init() { QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false")); }
-    void cleanup() { QLoggingCategory::setFilterRules(QString()); }
+    void init()
+    {
+        startLeakCheck();
+        QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
+    }
+    void cleanup()
+    {
+        QLoggingCategory::setFilterRules(QString());
+        endLeakCheck();
+    }
 
     void commitWalksBothChoices()
     {

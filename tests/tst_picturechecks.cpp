@@ -3,6 +3,7 @@
 // signals in order, the row's edit protocol, and refused input.
 #include <lcdwidgets.h>
 
+#include "leakcheck.h"
 #include "knob.h"
 
 #include <QAbstractButton>
@@ -47,7 +48,7 @@ TypeItemMultiPictureCheck* layoutsRow(QWidget* parent, int n)
 
 } // namespace
 
-class TestPictureChecks : public QObject
+class TestPictureChecks : public LeakCheckedTest
 {
     Q_OBJECT
 

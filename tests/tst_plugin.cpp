@@ -1,6 +1,8 @@
 // The plug-in contract: the information record, the host API handle before and
 // after pluginit, the lookup of the keyboard proxy, and translation through the
 // host's catalogue.
+#include "leakcheck.h"
+
 #include <dov/api.h>
 #include <lcd/keyboardproxy.h>
 #include <lcdfwtranslatemanager.h>
@@ -66,7 +68,7 @@ protected:
 
 } // namespace
 
-class TestPlugin : public QObject
+class TestPlugin : public LeakCheckedTest
 {
     Q_OBJECT
 private slots:

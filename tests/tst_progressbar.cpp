@@ -1,5 +1,7 @@
 // Progress bar: sizes from the host rectangle, the per-task percentage and the
 // finish rule, result texts and colours, and the special value setters.
+#include "leakcheck.h"
+
 #include <lcdwidgets.h>
 
 #include <QLabel>
@@ -32,7 +34,7 @@ QColor colourOf(ProgressBarCtr& p)
 
 } // namespace
 
-class TestProgressBar : public QObject
+class TestProgressBar : public LeakCheckedTest
 {
     Q_OBJECT
 

@@ -2,6 +2,7 @@
 // helpers and their roles, the knob's walk over the buttons with its wrap rules,
 // the progress box that ignores Escape and Back, the executing flag, the auto-close
 // timer, bad input; the progress band and the Apply notice.
+#include "leakcheck.h"
 #include "knob.h"
 #include "modal.h"
 
@@ -37,11 +38,15 @@ void quiet() { QLoggingCategory::setFilterRules(QStringLiteral("default.debug=fa
 
 } // namespace
 
-class TestReminderDialog : public QObject
+class TestReminderDialog : public LeakCheckedTest
 {
     Q_OBJECT
 private slots:
-    void init() { quiet(); }
+    void init()
+    {
+        startLeakCheck();
+        quiet();
+    }
     void sizesFollowTheHostRectangle();
     void iconAndPartsByType();
     void badInputIsLoggedAndRefused();

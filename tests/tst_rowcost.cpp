@@ -3,6 +3,8 @@
 // the time a page takes to build and show (each widget is polished against the
 // theme, each own sheet is parsed and matched for its widget), so a change that
 // makes a common row dearer fails here, without any timing.
+#include "leakcheck.h"
+
 #include <lcdwidgets.h>
 
 #include <QLabel>
@@ -43,7 +45,7 @@ using Factory = std::function<CommonItemType*(QWidget*)>;
 
 Q_DECLARE_METATYPE(Factory)
 
-class TestRowCost : public QObject
+class TestRowCost : public LeakCheckedTest
 {
     Q_OBJECT
 private slots:

@@ -3,6 +3,7 @@
 // sizes, and the expandable table's groups worked with the knob.
 #include <lcdwidgets.h>
 
+#include "leakcheck.h"
 #include "knob.h"
 
 #include <QLoggingCategory>
@@ -34,7 +35,7 @@ QString const kLong = QStringLiteral("Audience, balcony camera with the long len
 
 } // namespace
 
-class TestScrollingLists : public QObject
+class TestScrollingLists : public LeakCheckedTest
 {
     Q_OBJECT
 

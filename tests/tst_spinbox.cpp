@@ -2,6 +2,8 @@
 // the arithmetic's safety at the int limits and with degenerate ranges and levels,
 // the 0 key on a negative value, Enter, focus frames, validation and fixup, and the
 // "[knobspin]" debug line.
+#include "leakcheck.h"
+
 #include <knob.h>
 #include <lcdwidgets.h>
 
@@ -66,7 +68,7 @@ QString fixedUp(QAbstractSpinBox& box, QString input)
 
 } // namespace
 
-class TestSpinBox : public QObject
+class TestSpinBox : public LeakCheckedTest
 {
     Q_OBJECT
 private slots:

@@ -1,6 +1,8 @@
 // The switcher selection page: the 128 limit and its warning, update in place by
 // serial number, online and bound updates and their refusals, the grid placement,
 // knob navigation and the press, and the add-device flow with its address check.
+#include "leakcheck.h"
+
 #include <knob.h>
 #include <lcdwidgets.h>
 
@@ -68,7 +70,7 @@ struct Window
 
 } // namespace
 
-class TestSwitchers : public QObject
+class TestSwitchers : public LeakCheckedTest
 {
     Q_OBJECT
 private slots:

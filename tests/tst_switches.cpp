@@ -3,6 +3,7 @@
 // knob's walk through a row of switches.
 #include <lcdwidgets.h>
 
+#include "leakcheck.h"
 #include "knob.h"
 
 #include <QPointer>
@@ -34,7 +35,7 @@ void click(QWidget* w, Qt::MouseButton button = Qt::LeftButton)
 
 } // namespace
 
-class TestSwitches : public QObject
+class TestSwitches : public LeakCheckedTest
 {
     Q_OBJECT
 

@@ -1,6 +1,7 @@
 // The text view and multi-progress dialogs and the lock reminder: sizes from the
 // host rectangle, the knob's scrolling by level, who may close them and with which
 // result, task states, summaries and signal order, self-closing, and bad input.
+#include "leakcheck.h"
 #include "knob.h"
 #include "modal.h"
 
@@ -34,11 +35,15 @@ void settle()
 }
 } // namespace
 
-class TestSystemDialogs : public QObject
+class TestSystemDialogs : public LeakCheckedTest
 {
     Q_OBJECT
 private slots:
-    void init() { QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false")); }
+    void init()
+    {
+        startLeakCheck();
+        QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
+    }
     void textViewSizesFromTheHost();
     void textViewScrollsByLevel();
     void textViewClosesWithEnterOrEscapeOnly();

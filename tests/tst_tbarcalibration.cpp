@@ -1,6 +1,8 @@
 // T-bar calibration: the run of seven presses (begin, six readings, end) reading the
 // host's keyboard proxy, the button texts and the highlighted step, Escape in the
 // middle of a run, and a host without a proxy.
+#include "leakcheck.h"
+
 #include <fakehost.h>
 #include <knob.h>
 #include <lcdwidgets.h>
@@ -59,7 +61,7 @@ QString oper(int step)
 
 } // namespace
 
-class TestTBarCalibration : public QObject
+class TestTBarCalibration : public LeakCheckedTest
 {
     Q_OBJECT
 private slots:

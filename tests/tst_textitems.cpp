@@ -1,6 +1,8 @@
 // The text rows: value fitting (plain, cut at two thirds, rolling), the icon size from
 // the item height, the font-size rules and refusals, the one-off right spacer, the
 // three-value row, and the "..." cut shared by the value rows.
+#include "leakcheck.h"
+
 #include <lcdwidgets.h>
 #include <displaytext_p.h> // internal helpers, compiled into this test
 
@@ -37,7 +39,7 @@ int spacerCount(QHBoxLayout* layout)
 
 } // namespace
 
-class TestTextItems : public QObject
+class TestTextItems : public LeakCheckedTest
 {
     Q_OBJECT
 private slots:

@@ -1,6 +1,7 @@
 // Self-closing notices: the reminder toast's timer, size, icon and mask; the popup
 // toast's flags, types, self-deletion and Escape rule; the tip box's result,
 // buttons and separator.
+#include "leakcheck.h"
 #include "modal.h"
 
 #include <remindertoastdialog.h>
@@ -21,11 +22,15 @@ namespace {
 QRect const kPanel(0, 0, 800, 480);
 } // namespace
 
-class TestToasts : public QObject
+class TestToasts : public LeakCheckedTest
 {
     Q_OBJECT
 private slots:
-    void init() { QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false")); }
+    void init()
+    {
+        startLeakCheck();
+        QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
+    }
     void reminderToastSizeIconAndMask();
     void reminderToastClosesAfterItsTime();
     void zeroTimeClosesOnTheNextPass();

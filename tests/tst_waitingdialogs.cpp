@@ -1,6 +1,7 @@
 // Busy indicators: the shared waiting panel (single instance, sizes, levels, the
 // function button, never closed by the user, hidden only by the host) and the
 // block dialog with its twelve-segment bar and animation.
+#include "leakcheck.h"
 #include "modal.h"
 
 #include <blockdialog.h>
@@ -23,12 +24,20 @@ QColor textColour(WaitingDialog* w)
 }
 } // namespace
 
-class TestWaitingDialogs : public QObject
+class TestWaitingDialogs : public LeakCheckedTest
 {
     Q_OBJECT
 private slots:
-    void init() { quiet(); }
-    void cleanup() { WaitingDialog::deleteInstance(); }
+    void init()
+    {
+        startLeakCheck();
+        quiet();
+    }
+    void cleanup()
+    {
+        WaitingDialog::deleteInstance();
+        endLeakCheck();
+    }
     void oneInstanceKeepsItsFirstRectangle();
     void userCannotCloseIt();
     void hideTwiceWarns();

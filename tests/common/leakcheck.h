@@ -10,7 +10,8 @@
 
 #include <QApplication>
 #include <QObject>
-#include <QSet>
+#include <QHash>
+#include <QPointer>
 #include <QStringList>
 #include <QWidget>
 #include <QtTest>
@@ -26,7 +27,7 @@ public:
         flushDeferredDeletes();
         m_before.clear();
         for (QWidget* w : QApplication::allWidgets())
-            m_before.insert(w);
+            m_before.insert(w, w);
         m_checking = true;
     }
 
@@ -38,10 +39,10 @@ public:
         flushDeferredDeletes();
         QStringList left;
         for (QWidget* w : QApplication::allWidgets()) {
-            if (m_before.contains(w) || isQtInternal(w))
+            if (wasAlive(w) || isQtInternal(w))
                 continue;
-            // Report top-levels only: their children go with them.
-            if (w->parentWidget() && !m_before.contains(w->parentWidget()) && !isQtInternal(w->parentWidget()))
+            // Report the top of each new tree only: its children go with it.
+            if (w->parentWidget() && !wasAlive(w->parentWidget()) && !isQtInternal(w->parentWidget()))
                 continue;
             left << QStringLiteral("%1 \"%2\"%3")
                         .arg(QString::fromLatin1(w->metaObject()->className()), w->objectName(),
@@ -57,6 +58,9 @@ protected slots:
     void cleanup() { endLeakCheck(); }
 
 private:
+    // Alive before the function, and not a new widget that took a deleted one's address.
+    bool wasAlive(QWidget* w) const { return m_before.value(w) == w; }
+
     static void flushDeferredDeletes()
     {
         for (int i = 0; i < 3; ++i)
@@ -71,6 +75,6 @@ private:
         return cls == "QDesktopWidget" || cls == "QDesktopScreenWidget" || cls == "QTipLabel";
     }
 
-    QSet<QWidget*> m_before;
+    QHash<QWidget*, QPointer<QWidget>> m_before;
     bool m_checking = false;
 };
