@@ -1,4 +1,5 @@
 #include "commonitemtype.h"
+#include "inputcheck_p.h"
 
 #include "displaytext_p.h"
 
@@ -140,7 +141,7 @@ void CommonItemType::createWidgets()
 
 QString CommonItemType::smallLabelSheet() const
 {
-    return QStringLiteral("QLabel{font-size: %1px; }").arg(static_cast<int>(d->contentFontSize * 0.6));
+    return QStringLiteral("QLabel{font-size: %1px; }").arg(qMax(1, static_cast<int>(d->contentFontSize * 0.6)));
 }
 
 void CommonItemType::ensureLeftIcon() const
@@ -235,10 +236,17 @@ void CommonItemType::setRange(int, int) {}
 
 void CommonItemType::setSingleStep(float) {}
 
-void CommonItemType::setRightIconSize(QSize size) { d->rightIconButton->setFixedSize(size); }
+void CommonItemType::setRightIconSize(QSize size)
+{
+    if (!sizeOk("CommonItemType", "setRightIconSize", size))
+        return;
+    d->rightIconButton->setFixedSize(size);
+}
 
 void CommonItemType::setLeftIconSize(QSize size)
 {
+    if (!sizeOk("CommonItemType", "setLeftIconSize", size))
+        return;
     ensureLeftIcon();
     d->leftIconButton->setFixedSize(size);
     setLeftIconTitleHide(d->leftIconTitle->isHidden());
@@ -246,6 +254,8 @@ void CommonItemType::setLeftIconSize(QSize size)
 
 void CommonItemType::setContentFontSize(int size)
 {
+    if (!fontSizeOk("CommonItemType", "setContentFontSize", size))
+        return;
     d->contentFontSize = size;
     d->fontSizeSet = true;
     QString const sheet = QStringLiteral("QLabel{font-size: %1px; }").arg(size);
@@ -338,7 +348,12 @@ void CommonItemType::setItemTitleStyleSheet(QString const& sheet) { d->titleLabe
 
 void CommonItemType::setItemTitleLabelHide(bool hide) { d->titleLabel->setHidden(hide); }
 
-void CommonItemType::setMaximumWidthRoll(int width) { d->titleLabel->setMaximumWidth(width); }
+void CommonItemType::setMaximumWidthRoll(int width)
+{
+    if (!lengthOk("CommonItemType", "setMaximumWidthRoll", width))
+        return;
+    d->titleLabel->setMaximumWidth(width);
+}
 
 void CommonItemType::setRollLabelStretchMax()
 {

@@ -1,4 +1,5 @@
 #include "doublecomboxbasetype.h"
+#include "inputcheck_p.h"
 
 #include "spinrow_p.h"
 
@@ -206,6 +207,8 @@ void DoubleComboxBaseType::setContentFontSize(int size)
         qDebug() << "[DoubleComboxBaseType] setContentFontSize: font size must be positive, got" << size;
         return;
     }
+    if (!fontSizeOk("DoubleComboxBaseType", "setContentFontSize", size))
+        return;
     CommonItemType::setContentFontSize(size);
     if (!d->first)
         return;

@@ -1,4 +1,5 @@
 #include "lineeditorwidget.h"
+#include "inputcheck_p.h"
 
 #include "nsignallineedit.h"
 #include "qmlineedit.h"
@@ -114,6 +115,8 @@ void LineEditorWidget::setContentDisabled(bool disabled) const
 
 void LineEditorWidget::setContentFontSize(int size)
 {
+    if (!fontSizeOk("LineEditorWidget", "setContentFontSize", size))
+        return;
     if (size <= 0) {
         qWarning().noquote() << QStringLiteral("[LineEditorWidget] setContentFontSize: %1 is not a size, ignored").arg(size);
         return;

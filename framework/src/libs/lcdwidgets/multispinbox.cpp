@@ -1,4 +1,5 @@
 #include "multispinbox.h"
+#include "inputcheck_p.h"
 
 #include "lcdspinbox.h"
 #include "spinfields_p.h"
@@ -155,6 +156,8 @@ void MultiSpinBox::setContentDisabled(bool disabled) const { d->fields->setEnabl
 
 void MultiSpinBox::setContentFontSize(int size)
 {
+    if (!fontSizeOk("MultiSpinBox", "setContentFontSize", size))
+        return;
     if (size <= 0) {
         qWarning().noquote() << QStringLiteral("[MultiSpinBox] setContentFontSize: %1 is not a size, ignored").arg(size);
         return;

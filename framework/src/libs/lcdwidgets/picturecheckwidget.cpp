@@ -1,4 +1,5 @@
 #include "picturecheckwidget.h"
+#include "inputcheck_p.h"
 
 #include "choicekeys_p.h"
 
@@ -213,6 +214,8 @@ int PictureCheckWidget::rowCount() const { return (d->buttons.size() + d->column
 
 void PictureCheckWidget::setPictureSize(QSize size)
 {
+    if (!sizeOk("PictureCheckWidget", "setPictureSize", size))
+        return;
     if (!size.isValid() || size.isEmpty() || size.width() > QWIDGETSIZE_MAX || size.height() > QWIDGETSIZE_MAX) {
         qDebug().noquote() << QStringLiteral("[PictureCheckWidget] setPictureSize: invalid size %1x%2")
                                   .arg(size.width())
@@ -228,6 +231,8 @@ QSize PictureCheckWidget::pictureSize() const { return d->pictureSize; }
 
 void PictureCheckWidget::setContentFontSize(int size)
 {
+    if (!fontSizeOk("PictureCheckWidget", "setContentFontSize", size))
+        return;
     if (size < 1) {
         qDebug().noquote() << "[PictureCheckWidget] setContentFontSize: font size must be positive, got" << size;
         return;

@@ -1,4 +1,5 @@
 #include "rolllabel.h"
+#include "inputcheck_p.h"
 
 #include <QEvent>
 #include <QPainter>
@@ -11,6 +12,9 @@ RollLabel::~RollLabel() = default;
 
 void RollLabel::setWidth(int width)
 {
+    // Below 1: no fixed width wanted (the label takes its text as it is).
+    if (!LCD::Widget::lengthOk("RollLabel", "setWidth", qMax(0, width)))
+        return;
     m_width = width;
     setFixedWidth(qMax(0, width));
 }

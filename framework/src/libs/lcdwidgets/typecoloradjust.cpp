@@ -1,4 +1,5 @@
 #include "typecoloradjust.h"
+#include "inputcheck_p.h"
 
 #include "lcdspinbox.h"
 #include "spinfields_p.h"
@@ -150,6 +151,8 @@ void TypeColorAdjust::setContentDisabled(bool disabled) const
 
 void TypeColorAdjust::setContentFontSize(int size)
 {
+    if (!fontSizeOk("TypeColorAdjust", "setContentFontSize", size))
+        return;
     if (size <= 0) {
         qWarning().noquote() << QStringLiteral("[TypeColorAdjust] setContentFontSize: %1 is not a size, ignored").arg(size);
         return;

@@ -1,4 +1,5 @@
 #include "typedialogmenu.h"
+#include "inputcheck_p.h"
 
 #include "dialogmenuwidget.h"
 #include "ellipsislabel.h"
@@ -359,6 +360,8 @@ void TypeDialogMenu::closeEditValue()
 
 void TypeDialogMenu::setContentFontSize(int size)
 {
+    if (!fontSizeOk("TypeDialogMenu", "setContentFontSize", size))
+        return;
     CommonItemType::setContentFontSize(size);
     int const f = contentFontSize();
     if (f <= 0)

@@ -1,4 +1,5 @@
 #include "typefloatadjust.h"
+#include "inputcheck_p.h"
 
 #include "lcdspinbox.h"
 #include "spinrow_p.h"
@@ -108,6 +109,8 @@ void TypeFloatAdjust::setContentDisabled(bool disabled) const
 
 void TypeFloatAdjust::setContentFontSize(int size)
 {
+    if (!fontSizeOk("TypeFloatAdjust", "setContentFontSize", size))
+        return;
     CommonItemType::setContentFontSize(size);
     d->spinBox->setStyleSheet(
         QStringLiteral("QAbstractSpinBox{font-size:%1px; border-radius:%2px; }").arg(size).arg(itemHeight() / 9));

@@ -1,4 +1,5 @@
 #include "typestringcombox.h"
+#include "inputcheck_p.h"
 
 #include "dropcombobox.h"
 #include "spinrow_p.h"
@@ -407,6 +408,8 @@ void TypeStringCombox::setContentDisabled(bool disabled) const
 
 void TypeStringCombox::setRightIconSize(QSize size)
 {
+    if (!sizeOk("TypeStringCombox", "setRightIconSize", size))
+        return;
     if (size.width() < 0 || size.height() < 0) {
         qDebug() << "[TypeStringCombox] setRightIconSize: negative size refused:" << size;
         return;
@@ -417,6 +420,8 @@ void TypeStringCombox::setRightIconSize(QSize size)
 
 void TypeStringCombox::setContentFontSize(int size)
 {
+    if (!fontSizeOk("TypeStringCombox", "setContentFontSize", size))
+        return;
     CommonItemType::setContentFontSize(size);
     int const f = contentFontSize();
     if (f > 0)
@@ -455,6 +460,8 @@ void TypeStringCombox::setComboBoxVisible(bool visible)
 
 void TypeStringCombox::setIconSize(QSize size)
 {
+    if (!sizeOk("TypeStringCombox", "setIconSize", size))
+        return;
     if (size.width() < 0 || size.height() < 0) {
         qDebug() << "[TypeStringCombox] setIconSize: negative size refused:" << size;
         return;
