@@ -43,6 +43,7 @@ namespace {
 // ---- The replay log: plain char buffers, so that a signal handler can print them ----
 
 constexpr int kRing = 40;
+constexpr qint64 kSlowMs = 250;
 constexpr int kLine = 200;
 char g_ring[kRing][kLine];
 std::atomic<int> g_ringNext{0};
@@ -183,6 +184,8 @@ void startWatchdog(int seconds)
             if (std::chrono::steady_clock::now() - since > std::chrono::seconds(seconds)) {
                 writeOut("\nmonkey: HANG (one action ran longer than the watchdog's limit)\n");
                 printRing();
+                if (g_messages.abortOnFailure)
+                    std::abort();   // a debugger's "thread apply all bt" shows where the loop is
                 ::_exit(3);
             }
         }
@@ -448,7 +451,15 @@ private:
             finish();
         } else {
             g_event = m_done;
+            QElapsedTimer took;
+            took.start();
             act();
+            // Slow actions are reported (not failed): a knob step should cost microseconds.
+            if (took.elapsed() > kSlowMs) {
+                QByteArray const last = QByteArray(g_ring[(g_ringNext.load() + kRing - 1) % kRing]);
+                std::fprintf(stderr, "monkey: slow (%lld ms): %s: %s\n", static_cast<long long>(took.elapsed()),
+                             qPrintable(m_entry.name), last.constData());
+            }
             ++m_done;
         }
         ++g_heartbeat;

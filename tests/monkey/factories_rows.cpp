@@ -87,7 +87,7 @@ QStringList own(QStringList const& classes)
 {
     QStringList out;
     for (QString const& c : classes)
-        out << QStringLiteral("^\\[%1\\]").arg(c) << QStringLiteral("^%1(::|:)").arg(c);
+        out << QStringLiteral("^\\[%1\\]").arg(c) << QStringLiteral("^-?%1(::|:)").arg(c);
     return out;
 }
 
@@ -923,7 +923,7 @@ void addRowClasses(std::vector<ClassEntry>& out)
     }, {
         ACT(QListWidget, "setTextMargins", static_cast<WrapListDelegate*>(w->itemDelegate())->setTextMargins(r.hostileSize(), r.hostileSize())),
         ACT(QListWidget, "setMaximumLines", static_cast<WrapListDelegate*>(w->itemDelegate())->setMaximumLines(r.hostileInt())),
-        ACT(QListWidget, "lineCount", static_cast<WrapListDelegate*>(w->itemDelegate())->lineCount(r.hostileText(), w->font(), r.hostileSize())),
+        ACT(QListWidget, "lineCount", static_cast<WrapListDelegate*>(w->itemDelegate())->lineCount(r.hostileText().left(3000), w->font(), r.hostileSize())),
         ACT(QListWidget, "addItem", w->addItem(r.hostileText().left(3000))),
         ACT(QListWidget, "doItemsLayout", w->doItemsLayout()),
     }));

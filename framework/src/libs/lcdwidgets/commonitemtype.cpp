@@ -551,7 +551,8 @@ int CommonItemType::getLabelRow(QLabel* label) const
         int const counted = calculateTextLineCount(text, avail, font);
         int remaining = qMax(1, counted);
         QString line;
-        for (QChar const c : qAsConst(text)) {
+        for (int i = 0; i < text.size(); ++i) {
+            QChar const c = text.at(i);
             if (line.isEmpty() || fm.horizontalAdvance(line + c) <= avail) {
                 line += c;
             } else if (remaining > 1) {
@@ -559,29 +560,48 @@ int CommonItemType::getLabelRow(QLabel* label) const
                 --remaining;
                 line = QString(c);
             } else {
-                line += c;
+                // The last line takes the rest as it is (measuring it grows with its length).
+                line += text.midRef(i);
+                break;
             }
         }
         wrapped += line;
         lines = qMax(1, counted);
     } else {
         // Latin text breaks after the last space that still fits.
+        // No character is narrower than a pixel: a line holds at most `avail` of them,
+        // and the longest prefix that fits is found by halving (a long text costs
+        // O(n log avail) measures, not O(n^2)).
         QStringList out;
-        QString rest = text;
-        while (fm.horizontalAdvance(rest) > avail) {
-            int overflow = 1;
-            while (overflow < rest.size() && fm.horizontalAdvance(rest.left(overflow + 1)) <= avail)
-                ++overflow;
-            // `overflow` characters fit; the next one overflows.
-            int const space = rest.lastIndexOf(QLatin1Char(' '), overflow);
-            int const cut = space >= 0 ? space + 1 : overflow;
-            out << rest.left(cut);
-            rest = rest.mid(cut);
-            if (rest.isEmpty())
+        int pos = 0;
+        int const n = text.size();
+        for (;;) {
+            int const left = n - pos;
+            if (left <= avail && fm.horizontalAdvance(text.mid(pos)) <= avail)
+                break;
+            int fit = 1;  // at least one character a line
+            int lo = 2;
+            int hi = qMin(left, avail);
+            while (lo <= hi) {
+                int const mid = lo + (hi - lo) / 2;
+                if (fm.horizontalAdvance(text.mid(pos, mid)) <= avail) {
+                    fit = mid;
+                    lo = mid + 1;
+                } else {
+                    hi = mid - 1;
+                }
+            }
+            // `fit` characters fit; the next one overflows. Break after the last space
+            // up to and including that one.
+            int const space = text.midRef(pos, fit + 1).lastIndexOf(QLatin1Char(' '));
+            int const cut = space >= 0 ? space + 1 : fit;
+            out << text.mid(pos, cut);
+            pos += cut;
+            if (pos >= n)
                 break;
         }
-        if (!rest.isEmpty() || out.isEmpty())
-            out << rest;
+        if (pos < n || out.isEmpty())
+            out << text.mid(pos);
         wrapped = out.join(QLatin1Char('\n'));
         lines = out.size();
     }

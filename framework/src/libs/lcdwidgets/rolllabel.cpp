@@ -48,6 +48,10 @@ void RollLabel::setCalTextLabel(QString const& text, int width, bool roll)
 
 void RollLabel::setspeed(int step, int interval)
 {
+    if (interval < 1) {
+        qWarning().noquote() << QStringLiteral("[RollLabel] setspeed: interval %1 refused").arg(interval);
+        return;
+    }
     m_step = step;
     m_interval = interval;
 }

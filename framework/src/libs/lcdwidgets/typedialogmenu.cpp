@@ -6,6 +6,7 @@
 #include "spinrow_p.h"
 #include "stylehelper.h"
 
+#include <QPointer>
 #include <QApplication>
 #include <QDebug>
 #include <QHBoxLayout>
@@ -343,7 +344,11 @@ void TypeDialogMenu::editValue()
     d->dialog->listWidget()->setFocus(Qt::OtherFocusReason);
     // Take the window system's late report of the activation now, while the menu is
     // shown: taken after it has closed it would make a hidden window the active one.
+    // Timers may run here too: one of them may delete this row.
+    QPointer<TypeDialogMenu> const self(this);
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    if (!self)
+        return;
     setEdit(true);
     emit signalEditStarted();
 }

@@ -130,6 +130,9 @@ void TypeItemText::setIconButtonSize(QSize size)
 
 void TypeItemText::rightDistanceCorrection(int width)
 {
+    // A refused width leaves the process-wide once-flag unused.
+    if (!lengthOk("TypeItemText", "rightDistanceCorrection", width))
+        return;
     std::call_once(g_rightDistanceOnce, [this, width] {
         dynamicLayout()->addSpacerItem(new QSpacerItem(width, 0, QSizePolicy::Fixed, QSizePolicy::Fixed));
     });

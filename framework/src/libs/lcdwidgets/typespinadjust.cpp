@@ -97,6 +97,8 @@ void TypeSpinAdjust::slotUpdateItemWidth(int width)
 {
     // The share is the whole control's width; its text takes what the buttons leave.
     int const w = qMax(0, static_cast<int>(width * kBoxWidthShare));
+    if (!lengthOk("TypeSpinAdjust", "slotUpdateItemWidth", w))
+        return;
     d->left->setFixedWidth(w);
     d->right->setFixedWidth(w);
 }

@@ -5,6 +5,7 @@
 #include "spinrow_p.h"
 #include "stylehelper.h"
 
+#include <QPointer>
 #include <QAbstractItemView>
 #include <QDebug>
 #include <QHBoxLayout>
@@ -316,7 +317,10 @@ void TypeStringCombox::editValue()
     }
     if (d->combo->isPopupVisible() || d->combo->isCustomPopupVisible())
         return;
+    QPointer<TypeStringCombox> const self(this);
     showPopup(false);
+    if (!self)
+        return;
     if (d->combo->isPopupVisible() || d->combo->isCustomPopupVisible()) {
         d->editing = true;
         setEdit(true);
@@ -350,7 +354,11 @@ void TypeStringCombox::showPopup(bool quiet)
         return;
     }
     d->placingCursor = true;
+    // The drop-down lets pending events run while it opens: a timer may delete this row.
+    QPointer<TypeStringCombox> const self(this);
     d->combo->showPopup();
+    if (!self)
+        return;
     if (!d->combo->usesCustomPopup())
         d->standardUsed = true;
     list = d->activeList();
