@@ -459,7 +459,7 @@ void DialogMenuWidget::setMenuWidgetHeight(int height)
         qDebug() << "[DialogMenuWidget] setMenuWidgetHeight: negative height" << height;
         return;
     }
-    if (!lengthOk("DialogMenuWidget", "setMenuWidgetHeight", height))
+    if (!windowLengthOk("DialogMenuWidget", "setMenuWidgetHeight", height))
         return;
     d->menuHeight = height;
 }
@@ -472,7 +472,8 @@ void DialogMenuWidget::updateItemHeight(int menuHeight, int width)
         qDebug() << "[DialogMenuWidget] updateItemHeight: negative height" << menuHeight;
         return;
     }
-    if (!lengthOk("DialogMenuWidget", "updateItemHeight", menuHeight) || !lengthOk("DialogMenuWidget", "updateItemHeight", qMax(0, width)))
+    if (!windowLengthOk("DialogMenuWidget", "updateItemHeight", menuHeight)
+        || !windowLengthOk("DialogMenuWidget", "updateItemHeight", qMax(0, width)))
         return;
     int const h = menuHeight / (d->slidWindowCount + 1);
     if (h > 0)

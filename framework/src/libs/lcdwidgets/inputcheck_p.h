@@ -31,6 +31,18 @@ inline bool lengthOk(char const* cls, char const* setter, int length)
     return false;
 }
 
+// Longest side a setter gives a window (a dialog, a menu): far beyond any panel screen,
+// and small enough for the window's backing store.
+constexpr int kMaxWindowLength = 10000;
+
+inline bool windowLengthOk(char const* cls, char const* setter, int length)
+{
+    if (length >= 0 && length <= kMaxWindowLength)
+        return true;
+    qWarning().noquote() << QStringLiteral("[%1] %2: length %3 refused").arg(QLatin1String(cls), QLatin1String(setter)).arg(length);
+    return false;
+}
+
 inline bool sizeOk(char const* cls, char const* setter, QSize size)
 {
     if (size.width() >= 0 && size.height() >= 0 && size.width() <= QWIDGETSIZE_MAX &&
