@@ -12,6 +12,8 @@
 #include <QStandardItemModel>
 #include <QSignalSpy>
 #include <QVBoxLayout>
+#include <QPointer>
+#include <QTimer>
 #include <QtTest>
 
 using namespace LCD::Widget;
@@ -74,6 +76,7 @@ class TestDropCombobox : public QObject
 {
     Q_OBJECT
 private slots:
+    void choiceRowDeletedWhileOpening();
     void init() { m_widgets = QApplication::allWidgets().size(); }
     void cleanup()
     {
@@ -682,6 +685,25 @@ void TestDropCombobox::choiceRowListInterface()
     row.clear();
     QCOMPARE(row.count(), 0);
     QCOMPARE(row.currentIndex(), -1);
+}
+
+// The drop-down lets pending events run while it opens; a host timer that deletes the
+// row then must not leave the row's edit running on freed memory.
+void TestDropCombobox::choiceRowDeletedWhileOpening()
+{
+    QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
+    for (bool custom : {false, true}) {
+        Host host;
+        QPointer<TypeStringCombox> row = new TypeStringCombox(&host);
+        row->setHomeRect(custom ? QRect(0, 0, 800, 480) : QRect());
+        row->addItem(QStringLiteral("A"), 1);
+        row->addItem(QStringLiteral("B"), 2);
+        QVERIFY(host.start());
+        QTimer::singleShot(0, row.data(), [&row] { delete row.data(); });
+        row->editValue();
+        QTRY_VERIFY(row.isNull());
+    }
+    QLoggingCategory::setFilterRules(QString());
 }
 
 QTEST_MAIN(TestDropCombobox)

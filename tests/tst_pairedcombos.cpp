@@ -9,6 +9,8 @@
 #include <QLoggingCategory>
 #include <QSignalSpy>
 #include <QVBoxLayout>
+#include <QPointer>
+#include <QTimer>
 #include <QtTest>
 
 using namespace LCD::Widget;
@@ -83,6 +85,7 @@ class TestPairedCombos : public QObject
     Q_OBJECT
 
 private slots:
+    void deletedWhileOpening();
     void init() { QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false")); }
     void cleanup() { QLoggingCategory::setFilterRules(QString()); }
 
@@ -294,6 +297,18 @@ private slots:
         QCOMPARE(QApplication::focusWidget(), &page);
     }
 };
+
+// A timer deleting the pair while its first list opens (the list lets events run).
+void TestPairedCombos::deletedWhileOpening()
+{
+    Page page;
+    QPointer<TypeItemDoubleCombox> row = auxRow(page);
+    page.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&page));
+    QTimer::singleShot(0, row.data(), [&row] { delete row.data(); });
+    row->editValue();
+    QTRY_VERIFY(row.isNull());
+}
 
 QTEST_MAIN(TestPairedCombos)
 #include "tst_pairedcombos.moc"
