@@ -381,7 +381,7 @@ private:
 
     void waitTimers()
     {
-        m_pauseMs = m_rng.between(1, 300);
+        m_pauseMs = m_rng.between(1, 100);
         log(QStringLiteral("let timers run %1 ms").arg(m_pauseMs));
         m_pausedUntil.start();
     }

@@ -115,12 +115,12 @@ void LineEditorWidget::setContentDisabled(bool disabled) const
 
 void LineEditorWidget::setContentFontSize(int size)
 {
-    if (!fontSizeOk("LineEditorWidget", "setContentFontSize", size))
-        return;
     if (size <= 0) {
         qWarning().noquote() << QStringLiteral("[LineEditorWidget] setContentFontSize: %1 is not a size, ignored").arg(size);
         return;
     }
+    if (!fontSizeOk("LineEditorWidget", "setContentFontSize", size))
+        return;
     CommonItemType::setContentFontSize(size);
     for (QWidget* w : {static_cast<QWidget*>(d->editor), static_cast<QWidget*>(d->unit)}) {
         QFont f = w->font();

@@ -331,12 +331,12 @@ void MultipleSpinBox::setContentDisabled(bool disabled) const
 
 void MultipleSpinBox::setContentFontSize(int size)
 {
-    if (!fontSizeOk("MultipleSpinBox", "setContentFontSize", size))
-        return;
     if (size <= 0) {
         qWarning().noquote() << QStringLiteral("[MultipleSpinBox] setContentFontSize: %1 is not a size, ignored").arg(size);
         return;
     }
+    if (!fontSizeOk("MultipleSpinBox", "setContentFontSize", size))
+        return;
     CommonItemType::setContentFontSize(size);
     for (MultipleSpinBoxItem* item : d->items)
         item->setFontSize(size);

@@ -156,12 +156,12 @@ void MultiSpinBox::setContentDisabled(bool disabled) const { d->fields->setEnabl
 
 void MultiSpinBox::setContentFontSize(int size)
 {
-    if (!fontSizeOk("MultiSpinBox", "setContentFontSize", size))
-        return;
     if (size <= 0) {
         qWarning().noquote() << QStringLiteral("[MultiSpinBox] setContentFontSize: %1 is not a size, ignored").arg(size);
         return;
     }
+    if (!fontSizeOk("MultiSpinBox", "setContentFontSize", size))
+        return;
     CommonItemType::setContentFontSize(size);
     d->fields->setFontSize(size);
 }

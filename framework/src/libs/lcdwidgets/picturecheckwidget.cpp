@@ -214,14 +214,14 @@ int PictureCheckWidget::rowCount() const { return (d->buttons.size() + d->column
 
 void PictureCheckWidget::setPictureSize(QSize size)
 {
-    if (!sizeOk("PictureCheckWidget", "setPictureSize", size))
-        return;
     if (!size.isValid() || size.isEmpty() || size.width() > QWIDGETSIZE_MAX || size.height() > QWIDGETSIZE_MAX) {
         qDebug().noquote() << QStringLiteral("[PictureCheckWidget] setPictureSize: invalid size %1x%2")
                                   .arg(size.width())
                                   .arg(size.height());
         return;
     }
+    if (!sizeOk("PictureCheckWidget", "setPictureSize", size))
+        return;
     d->pictureSize = size;
     for (QToolButton* b : d->buttons)
         d->applySize(b);
@@ -231,12 +231,12 @@ QSize PictureCheckWidget::pictureSize() const { return d->pictureSize; }
 
 void PictureCheckWidget::setContentFontSize(int size)
 {
-    if (!fontSizeOk("PictureCheckWidget", "setContentFontSize", size))
-        return;
     if (size < 1) {
         qDebug().noquote() << "[PictureCheckWidget] setContentFontSize: font size must be positive, got" << size;
         return;
     }
+    if (!fontSizeOk("PictureCheckWidget", "setContentFontSize", size))
+        return;
     d->fontSize = size;
     d->grid->setSpacing(qMax(2, size / 3));
     for (QToolButton* b : d->buttons)

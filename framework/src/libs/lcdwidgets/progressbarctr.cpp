@@ -1,5 +1,4 @@
 #include "progressbarctr.h"
-#include "inputcheck_p.h"
 
 #include <QDebug>
 #include <QEvent>
@@ -177,8 +176,6 @@ void ProgressBarCtr::setFontSize(int size)
         qWarning() << "[ProgressBarCtr] font size refused:" << size;
         return;
     }
-    if (!fontSizeOk("ProgressBarCtr", "setFontSize", size))
-        return;
     QString const sheet = QStringLiteral("QLabel{font-size: ") + QString::number(size) + QStringLiteral("px; }");
     d->infoLabel->setStyleSheet(sheet);
     d->valueLabel->setStyleSheet(sheet);

@@ -151,12 +151,12 @@ void TypeColorAdjust::setContentDisabled(bool disabled) const
 
 void TypeColorAdjust::setContentFontSize(int size)
 {
-    if (!fontSizeOk("TypeColorAdjust", "setContentFontSize", size))
-        return;
     if (size <= 0) {
         qWarning().noquote() << QStringLiteral("[TypeColorAdjust] setContentFontSize: %1 is not a size, ignored").arg(size);
         return;
     }
+    if (!fontSizeOk("TypeColorAdjust", "setContentFontSize", size))
+        return;
     CommonItemType::setContentFontSize(size);
     d->fields->setFontSize(size);
 }

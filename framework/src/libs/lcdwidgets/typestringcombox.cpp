@@ -416,12 +416,12 @@ void TypeStringCombox::setContentDisabled(bool disabled) const
 
 void TypeStringCombox::setRightIconSize(QSize size)
 {
-    if (!sizeOk("TypeStringCombox", "setRightIconSize", size))
-        return;
     if (size.width() < 0 || size.height() < 0) {
         qDebug() << "[TypeStringCombox] setRightIconSize: negative size refused:" << size;
         return;
     }
+    if (!sizeOk("TypeStringCombox", "setRightIconSize", size))
+        return;
     CommonItemType::setRightIconSize(size);
     d->combo->setArrowSize(size);
 }
@@ -468,12 +468,12 @@ void TypeStringCombox::setComboBoxVisible(bool visible)
 
 void TypeStringCombox::setIconSize(QSize size)
 {
-    if (!sizeOk("TypeStringCombox", "setIconSize", size))
-        return;
     if (size.width() < 0 || size.height() < 0) {
         qDebug() << "[TypeStringCombox] setIconSize: negative size refused:" << size;
         return;
     }
+    if (!sizeOk("TypeStringCombox", "setIconSize", size))
+        return;
     d->combo->setIconSize(size);
 }
 
