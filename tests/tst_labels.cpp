@@ -232,6 +232,8 @@ void TestLabels::speedRefused()
     label.setspeed(3, -5);
     QTest::ignoreMessage(QtWarningMsg, "[RollLabel] setspeed: interval 0 refused");
     label.setspeed(3, 0);
+    QTest::ignoreMessage(QtWarningMsg, "[RollLabel] setspeed: step -2147483648 refused");
+    label.setspeed(std::numeric_limits<int>::min(), 40);
     QTest::ignoreMessage(QtWarningMsg, "[RollLabel] setWidth: length 16777216 refused");
     label.setWidth(QWIDGETSIZE_MAX + 1);
     QCOMPARE(label.storedWidth(), 0);

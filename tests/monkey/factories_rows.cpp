@@ -690,7 +690,7 @@ void addRowClasses(std::vector<ClassEntry>& out)
         auto* w = new BottomButtomFrame(Enum::BottomButtonType(types[n++ % 7]), page);
         return w;
     }, {
-        ACT(BottomButtomFrame, "button", w->button(Enum::BottomButtonType(1 << r.between(-1, 6)))),
+        ACT(BottomButtomFrame, "button", w->button(Enum::BottomButtonType(r.pick<int>({-1, 0, 1, 2, 4, 8, 16, 32, 64})))),
         ACT(BottomButtomFrame, "retranslateUi", w->retranslateUi()),
     }));
 

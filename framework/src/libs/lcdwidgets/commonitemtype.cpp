@@ -485,11 +485,14 @@ void CommonItemType::setTextChangedCB(std::function<void()> const& callback) { d
 
 void CommonItemType::calDynamicLayoutWidth(int& width) const
 {
+    // Summed wide and saturated: the caller's start value may be anything.
+    qint64 sum = width;
     for (int i = 0; i < d->dynamicLayout->count(); ++i) {
         QWidget* w = d->dynamicLayout->itemAt(i)->widget();
         if (w && !w->isHidden())
-            width += layoutWidth(w);
+            sum += layoutWidth(w);
     }
+    width = static_cast<int>(qBound<qint64>(std::numeric_limits<int>::min(), sum, std::numeric_limits<int>::max()));
 }
 
 int CommonItemType::calculateTextLineCount(QString const& text, int width, QFont font) const

@@ -52,6 +52,11 @@ void RollLabel::setspeed(int step, int interval)
         qWarning().noquote() << QStringLiteral("[RollLabel] setspeed: interval %1 refused").arg(interval);
         return;
     }
+    // A step is a few pixels a tick; beyond a screen's width it is no marquee.
+    if (step < 1 || step > 10000) {
+        qWarning().noquote() << QStringLiteral("[RollLabel] setspeed: step %1 refused").arg(step);
+        return;
+    }
     m_step = step;
     m_interval = interval;
 }
