@@ -76,6 +76,7 @@ class TestDropCombobox : public QObject
 {
     Q_OBJECT
 private slots:
+    void choiceRowHugeItemHeight();
     void choiceRowDeletedWhileOpening();
     void init() { m_widgets = QApplication::allWidgets().size(); }
     void cleanup()
@@ -703,6 +704,19 @@ void TestDropCombobox::choiceRowDeletedWhileOpening()
         row->editValue();
         QTRY_VERIFY(row.isNull());
     }
+    QLoggingCategory::setFilterRules(QString());
+}
+
+// The combo takes 5/7 of the row's height, computed wide: a huge height is refused by
+// the combo, not overflowed on the way.
+void TestDropCombobox::choiceRowHugeItemHeight()
+{
+    QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
+    TypeStringCombox row;
+    row.setItemHeight(70);
+    QCOMPARE(row.comboBox()->height(), 50);
+    row.setItemHeight(std::numeric_limits<int>::max());
+    QCOMPARE(row.comboBox()->maximumHeight(), 50);
     QLoggingCategory::setFilterRules(QString());
 }
 

@@ -444,7 +444,7 @@ void TypeStringCombox::setItemHeight(int height)
     CommonItemType::setItemHeight(height);
     int const h = itemHeight();
     if (h > 0)
-        d->combo->setHeight(h * 5 / 7);
+        d->combo->setHeight(static_cast<int>(qint64(h) * 5 / 7));  // wide: any height is safe
 }
 
 void TypeStringCombox::setHomeRect(QRect rect)
