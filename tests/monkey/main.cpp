@@ -11,6 +11,9 @@
 
 int main(int argc, char** argv)
 {
+    // The monkey opens and closes hundreds of windows: off screen unless asked otherwise.
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
 
     Monkey::Options options;
