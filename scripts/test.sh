@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Builds and runs every test twice: in a plain build and in an AddressSanitizer +
 # UndefinedBehaviorSanitizer build. The plain build also installs the package and
-# builds a host project against it (tests/package).
+# builds a host project against it (tests/package). Both run the monkey (CTest
+# "monkey": lcdmonkey with a fixed seed; see README, "The monkey").
 set -euo pipefail
 cd "$(dirname "$0")/.."
 scripts/deps.sh

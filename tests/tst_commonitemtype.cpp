@@ -5,6 +5,7 @@
 #include "leakcheck.h"
 #include "knob.h"
 
+#include <QElapsedTimer>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -67,6 +68,8 @@ private slots:
     void labelRowLatin();
     void labelRowChinese();
     void labelRowDegenerate();
+    void hostileSizesRefused();
+    void labelRowLongText();
     void chineseRange();
     void underLine();
     void editKeys();
@@ -341,10 +344,11 @@ void TestCommonItemType::labelRowDegenerate()
     row.getTitleLabel()->setText(QStringLiteral("some words that would wrap"));
     QCOMPARE(row.getLabelRow(row.getTitleLabel()), 1);
     QCOMPARE(row.getTitleLabel()->text(), QStringLiteral("some words that would wrap"));
-    // A font size below 1.
+    // A font size below 1 is refused: the row keeps its size.
     row.setItemTitleWidth(400);
+    QTest::ignoreMessage(QtWarningMsg, "[CommonItemType] setContentFontSize: font size 0 refused");
     row.setContentFontSize(0);
-    QCOMPARE(row.getLabelRow(row.getTitleLabel()), 1);
+    QCOMPARE(row.contentFontSize(), 20);
     // With the title hidden, another label gets the whole item width.
     row.setContentFontSize(20);
     row.setItemTitleLabelHide(true);
@@ -455,6 +459,46 @@ void TestCommonItemType::extremeSizesAreSafe()
     row.setContentFontSize(20);
     row.setItemTitle(QStringLiteral("Title"));
     QCOMPARE(row.getTitleLabel()->width(), 360);
+}
+
+// Sizes Qt cannot take are refused with the row's message and change nothing (Qt
+// would warn, or overflow its text layout, if they reached it).
+void TestCommonItemType::hostileSizesRefused()
+{
+    Row row;
+    row.setRightIconSize(QSize(20, 20));
+    QTest::ignoreMessage(QtWarningMsg, "[CommonItemType] setRightIconSize: size -1x5 refused");
+    row.setRightIconSize(QSize(-1, 5));
+    QTest::ignoreMessage(QtWarningMsg, "[CommonItemType] setLeftIconSize: size 5x16777216 refused");
+    row.setLeftIconSize(QSize(5, QWIDGETSIZE_MAX + 1));
+    QTest::ignoreMessage(QtWarningMsg, "[CommonItemType] setContentFontSize: font size 513 refused");
+    row.setContentFontSize(513);
+    QCOMPARE(row.contentFontSize(), 20);
+    QTest::ignoreMessage(QtWarningMsg, "[CommonItemType] setMaximumWidthRoll: length -2147483648 refused");
+    row.setMaximumWidthRoll(std::numeric_limits<int>::min());
+    QCOMPARE(row.getTitleLabel()->maximumWidth(), QWIDGETSIZE_MAX);
+    row.setContentFontSize(1);  // the caption's small font stays at least a pixel
+    row.setLeftIconTitleHide(false);
+    QCOMPARE(row.contentFontSize(), 1);
+}
+
+// A very long title wraps in a time that grows with its length, not its square, and
+// every line but the last fits.
+void TestCommonItemType::labelRowLongText()
+{
+    Row row(100);
+    row.setItemTitleWidth(400);
+    QString const text = QString(20000, QLatin1Char('W'));
+    row.getTitleLabel()->setText(text);
+    QElapsedTimer clock;
+    clock.start();
+    int const lines = row.getLabelRow(row.getTitleLabel());
+    QVERIFY2(clock.elapsed() < 2000, qPrintable(QString::number(clock.elapsed())));
+    QString const wrapped = row.getTitleLabel()->text();
+    QStringList const parts = wrapped.split(QLatin1Char('\n'));
+    QCOMPARE(parts.size(), lines);
+    QCOMPARE(QString(wrapped).remove(QLatin1Char('\n')), text);
+    QVERIFY(lines > 10);
 }
 
 QTEST_MAIN(TestCommonItemType)

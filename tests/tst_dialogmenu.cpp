@@ -96,6 +96,7 @@ class TestDialogMenu : public LeakCheckedTest
 {
     Q_OBJECT
 private slots:
+    void windowHeightsRefused();
     void initTestCase() { QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false")); }
     void init()
     {
@@ -618,6 +619,18 @@ void TestDialogMenu::rowDestroyedWhileOpen()
     QVERIFY(menu->isVisible());
     delete row;
     QVERIFY(menu.isNull());
+}
+
+// Heights no window can have are refused before they size the menu.
+void TestDialogMenu::windowHeightsRefused()
+{
+    DialogMenuWidget menu;
+    menu.setMenuWidgetHeight(300);
+    QTest::ignoreMessage(QtWarningMsg, "[DialogMenuWidget] setMenuWidgetHeight: length 100000 refused");
+    menu.setMenuWidgetHeight(100000);
+    QCOMPARE(menu.menuWidgetHeight(), 300);
+    QTest::ignoreMessage(QtWarningMsg, "[DialogMenuWidget] updateItemHeight: length 2147483647 refused");
+    menu.updateItemHeight(300, std::numeric_limits<int>::max());
 }
 
 QTEST_MAIN(TestDialogMenu)

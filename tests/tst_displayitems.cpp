@@ -21,6 +21,7 @@ class TestDisplayItems : public LeakCheckedTest
 {
     Q_OBJECT
 private slots:
+    void hostileSizesRefused();
     void tickChoosesRow();
     void editWithKnob();
     void editEndsOnFocusLossAndClose();
@@ -527,6 +528,27 @@ void TestDisplayItems::extremeSizes()
     }
     QCOMPARE(itemIconSide(std::numeric_limits<int>::max()), (std::numeric_limits<int>::max() / 36) * 24);
     QCOMPARE(itemIconSide(std::numeric_limits<int>::min()), 0);
+}
+
+// Sizes Qt cannot take are refused by the display rows before they reach it; the
+// derived caption and tip fonts stay at least a pixel for the smallest row font.
+void TestDisplayItems::hostileSizesRefused()
+{
+    TypeItemText text;
+    QTest::ignoreMessage(QtWarningMsg, "[TypeItemText] setIconButtonSize: size -1x-1 refused");
+    text.setIconButtonSize(QSize(-1, -1));
+    QTest::ignoreMessage(QtWarningMsg, "[TypeItemText] rightDistanceCorrection: length -3 refused");
+    text.rightDistanceCorrection(-3);
+    TypeItemTip tip;
+    QTest::ignoreMessage(QtWarningMsg, "[TypeItemTip] setTextLabelWidth: length 16777216 refused");
+    tip.setTextLabelWidth(QWIDGETSIZE_MAX + 1);
+    tip.setContentFontSize(1);   // 0.8 px would be no font at all
+    TypeKeyValueText keyValue;
+    QTest::ignoreMessage(QtWarningMsg, "[TypeKeyValueText] setValueLabelSize: size 16777216x10 refused");
+    keyValue.setValueLabelSize(QSize(QWIDGETSIZE_MAX + 1, 10));
+    TypeSpinAdjust spin;
+    QTest::ignoreMessage(QtWarningMsg, "[TypeSpinAdjust] slotUpdateItemWidth: length 1014089499 refused");
+    spin.setItemTitleWidth(std::numeric_limits<int>::max());
 }
 
 QTEST_MAIN(TestDisplayItems)

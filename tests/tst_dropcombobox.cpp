@@ -14,6 +14,8 @@
 #include <QStandardItemModel>
 #include <QSignalSpy>
 #include <QVBoxLayout>
+#include <QPointer>
+#include <QTimer>
 #include <QtTest>
 
 using namespace LCD::Widget;
@@ -76,6 +78,8 @@ class TestDropCombobox : public LeakCheckedTest
 {
     Q_OBJECT
 private slots:
+    void choiceRowHugeItemHeight();
+    void choiceRowDeletedWhileOpening();
 
     void popupChoice_data();
     void popupChoice();
@@ -676,6 +680,38 @@ void TestDropCombobox::choiceRowListInterface()
     row.clear();
     QCOMPARE(row.count(), 0);
     QCOMPARE(row.currentIndex(), -1);
+}
+
+// The drop-down lets pending events run while it opens; a host timer that deletes the
+// row then must not leave the row's edit running on freed memory.
+void TestDropCombobox::choiceRowDeletedWhileOpening()
+{
+    QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
+    for (bool custom : {false, true}) {
+        Host host;
+        QPointer<TypeStringCombox> row = new TypeStringCombox(&host);
+        row->setHomeRect(custom ? QRect(0, 0, 800, 480) : QRect());
+        row->addItem(QStringLiteral("A"), 1);
+        row->addItem(QStringLiteral("B"), 2);
+        QVERIFY(host.start());
+        QTimer::singleShot(0, row.data(), [&row] { delete row.data(); });
+        row->editValue();
+        QTRY_VERIFY(row.isNull());
+    }
+    QLoggingCategory::setFilterRules(QString());
+}
+
+// The combo takes 5/7 of the row's height, computed wide: a huge height is refused by
+// the combo, not overflowed on the way.
+void TestDropCombobox::choiceRowHugeItemHeight()
+{
+    QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
+    TypeStringCombox row;
+    row.setItemHeight(70);
+    QCOMPARE(row.comboBox()->height(), 50);
+    row.setItemHeight(std::numeric_limits<int>::max());
+    QCOMPARE(row.comboBox()->maximumHeight(), 50);
+    QLoggingCategory::setFilterRules(QString());
 }
 
 QTEST_MAIN(TestDropCombobox)

@@ -12,6 +12,7 @@ class TestLabels : public LeakCheckedTest
 {
     Q_OBJECT
 private slots:
+    void speedRefused();
     void init();
     void withoutWidthNothingIsElidedOrRolled();
     void elidesOnlyWhatDoesNotFit();
@@ -223,6 +224,22 @@ void TestLabels::ellipsisLabel()
     label.updateElidedText(100); // cut: elided 10 px short of the limit
     QCOMPARE(label.width(), 100);
     QCOMPARE(label.text(), QFontMetrics(m_font).elidedText(text, Qt::ElideRight, 90));
+}
+
+// A roll interval below 1 ms would be a busy timer (and Qt refuses negative ones).
+void TestLabels::speedRefused()
+{
+    RollLabel label;
+    label.setspeed(2, 40);
+    QTest::ignoreMessage(QtWarningMsg, "[RollLabel] setspeed: interval -5 refused");
+    label.setspeed(3, -5);
+    QTest::ignoreMessage(QtWarningMsg, "[RollLabel] setspeed: interval 0 refused");
+    label.setspeed(3, 0);
+    QTest::ignoreMessage(QtWarningMsg, "[RollLabel] setspeed: step -2147483648 refused");
+    label.setspeed(std::numeric_limits<int>::min(), 40);
+    QTest::ignoreMessage(QtWarningMsg, "[RollLabel] setWidth: length 16777216 refused");
+    label.setWidth(QWIDGETSIZE_MAX + 1);
+    QCOMPARE(label.storedWidth(), 0);
 }
 
 QTEST_MAIN(TestLabels)

@@ -10,6 +10,8 @@
 #include <QLoggingCategory>
 #include <QSignalSpy>
 #include <QVBoxLayout>
+#include <QPointer>
+#include <QTimer>
 #include <QtTest>
 
 using namespace LCD::Widget;
@@ -84,6 +86,7 @@ class TestPairedCombos : public LeakCheckedTest
     Q_OBJECT
 
 private slots:
+    void deletedWhileOpening();
     void init()
     {
         startLeakCheck();
@@ -303,6 +306,18 @@ private slots:
         QCOMPARE(QApplication::focusWidget(), &page);
     }
 };
+
+// A timer deleting the pair while its first list opens (the list lets events run).
+void TestPairedCombos::deletedWhileOpening()
+{
+    Page page;
+    QPointer<TypeItemDoubleCombox> row = auxRow(page);
+    page.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&page));
+    QTimer::singleShot(0, row.data(), [&row] { delete row.data(); });
+    row->editValue();
+    QTRY_VERIFY(row.isNull());
+}
 
 QTEST_MAIN(TestPairedCombos)
 #include "tst_pairedcombos.moc"

@@ -1,4 +1,5 @@
 #include "commonitemtype.h"
+#include "inputcheck_p.h"
 
 #include "displaytext_p.h"
 
@@ -140,7 +141,7 @@ void CommonItemType::createWidgets()
 
 QString CommonItemType::smallLabelSheet() const
 {
-    return QStringLiteral("QLabel{font-size: %1px; }").arg(static_cast<int>(d->contentFontSize * 0.6));
+    return QStringLiteral("QLabel{font-size: %1px; }").arg(qMax(1, static_cast<int>(d->contentFontSize * 0.6)));
 }
 
 void CommonItemType::ensureLeftIcon() const
@@ -235,10 +236,17 @@ void CommonItemType::setRange(int, int) {}
 
 void CommonItemType::setSingleStep(float) {}
 
-void CommonItemType::setRightIconSize(QSize size) { d->rightIconButton->setFixedSize(size); }
+void CommonItemType::setRightIconSize(QSize size)
+{
+    if (!sizeOk("CommonItemType", "setRightIconSize", size))
+        return;
+    d->rightIconButton->setFixedSize(size);
+}
 
 void CommonItemType::setLeftIconSize(QSize size)
 {
+    if (!sizeOk("CommonItemType", "setLeftIconSize", size))
+        return;
     ensureLeftIcon();
     d->leftIconButton->setFixedSize(size);
     setLeftIconTitleHide(d->leftIconTitle->isHidden());
@@ -246,6 +254,8 @@ void CommonItemType::setLeftIconSize(QSize size)
 
 void CommonItemType::setContentFontSize(int size)
 {
+    if (!fontSizeOk("CommonItemType", "setContentFontSize", size))
+        return;
     d->contentFontSize = size;
     d->fontSizeSet = true;
     QString const sheet = QStringLiteral("QLabel{font-size: %1px; }").arg(size);
@@ -338,7 +348,12 @@ void CommonItemType::setItemTitleStyleSheet(QString const& sheet) { d->titleLabe
 
 void CommonItemType::setItemTitleLabelHide(bool hide) { d->titleLabel->setHidden(hide); }
 
-void CommonItemType::setMaximumWidthRoll(int width) { d->titleLabel->setMaximumWidth(width); }
+void CommonItemType::setMaximumWidthRoll(int width)
+{
+    if (!lengthOk("CommonItemType", "setMaximumWidthRoll", width))
+        return;
+    d->titleLabel->setMaximumWidth(width);
+}
 
 void CommonItemType::setRollLabelStretchMax()
 {
@@ -470,11 +485,14 @@ void CommonItemType::setTextChangedCB(std::function<void()> const& callback) { d
 
 void CommonItemType::calDynamicLayoutWidth(int& width) const
 {
+    // Summed wide and saturated: the caller's start value may be anything.
+    qint64 sum = width;
     for (int i = 0; i < d->dynamicLayout->count(); ++i) {
         QWidget* w = d->dynamicLayout->itemAt(i)->widget();
         if (w && !w->isHidden())
-            width += layoutWidth(w);
+            sum += layoutWidth(w);
     }
+    width = static_cast<int>(qBound<qint64>(std::numeric_limits<int>::min(), sum, std::numeric_limits<int>::max()));
 }
 
 int CommonItemType::calculateTextLineCount(QString const& text, int width, QFont font) const
@@ -536,7 +554,8 @@ int CommonItemType::getLabelRow(QLabel* label) const
         int const counted = calculateTextLineCount(text, avail, font);
         int remaining = qMax(1, counted);
         QString line;
-        for (QChar const c : qAsConst(text)) {
+        for (int i = 0; i < text.size(); ++i) {
+            QChar const c = text.at(i);
             if (line.isEmpty() || fm.horizontalAdvance(line + c) <= avail) {
                 line += c;
             } else if (remaining > 1) {
@@ -544,29 +563,48 @@ int CommonItemType::getLabelRow(QLabel* label) const
                 --remaining;
                 line = QString(c);
             } else {
-                line += c;
+                // The last line takes the rest as it is (measuring it grows with its length).
+                line += text.midRef(i);
+                break;
             }
         }
         wrapped += line;
         lines = qMax(1, counted);
     } else {
         // Latin text breaks after the last space that still fits.
+        // No character is narrower than a pixel: a line holds at most `avail` of them,
+        // and the longest prefix that fits is found by halving (a long text costs
+        // O(n log avail) measures, not O(n^2)).
         QStringList out;
-        QString rest = text;
-        while (fm.horizontalAdvance(rest) > avail) {
-            int overflow = 1;
-            while (overflow < rest.size() && fm.horizontalAdvance(rest.left(overflow + 1)) <= avail)
-                ++overflow;
-            // `overflow` characters fit; the next one overflows.
-            int const space = rest.lastIndexOf(QLatin1Char(' '), overflow);
-            int const cut = space >= 0 ? space + 1 : overflow;
-            out << rest.left(cut);
-            rest = rest.mid(cut);
-            if (rest.isEmpty())
+        int pos = 0;
+        int const n = text.size();
+        for (;;) {
+            int const left = n - pos;
+            if (left <= avail && fm.horizontalAdvance(text.mid(pos)) <= avail)
+                break;
+            int fit = 1;  // at least one character a line
+            int lo = 2;
+            int hi = qMin(left, avail);
+            while (lo <= hi) {
+                int const mid = lo + (hi - lo) / 2;
+                if (fm.horizontalAdvance(text.mid(pos, mid)) <= avail) {
+                    fit = mid;
+                    lo = mid + 1;
+                } else {
+                    hi = mid - 1;
+                }
+            }
+            // `fit` characters fit; the next one overflows. Break after the last space
+            // up to and including that one.
+            int const space = text.midRef(pos, fit + 1).lastIndexOf(QLatin1Char(' '));
+            int const cut = space >= 0 ? space + 1 : fit;
+            out << text.mid(pos, cut);
+            pos += cut;
+            if (pos >= n)
                 break;
         }
-        if (!rest.isEmpty() || out.isEmpty())
-            out << rest;
+        if (pos < n || out.isEmpty())
+            out << text.mid(pos);
         wrapped = out.join(QLatin1Char('\n'));
         lines = out.size();
     }

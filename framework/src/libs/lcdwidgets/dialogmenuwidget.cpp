@@ -1,4 +1,5 @@
 #include "dialogmenuwidget.h"
+#include "inputcheck_p.h"
 
 #include <QApplication>
 #include <QDebug>
@@ -458,6 +459,8 @@ void DialogMenuWidget::setMenuWidgetHeight(int height)
         qDebug() << "[DialogMenuWidget] setMenuWidgetHeight: negative height" << height;
         return;
     }
+    if (!windowLengthOk("DialogMenuWidget", "setMenuWidgetHeight", height))
+        return;
     d->menuHeight = height;
 }
 
@@ -469,6 +472,9 @@ void DialogMenuWidget::updateItemHeight(int menuHeight, int width)
         qDebug() << "[DialogMenuWidget] updateItemHeight: negative height" << menuHeight;
         return;
     }
+    if (!windowLengthOk("DialogMenuWidget", "updateItemHeight", menuHeight)
+        || !windowLengthOk("DialogMenuWidget", "updateItemHeight", qMax(0, width)))
+        return;
     int const h = menuHeight / (d->slidWindowCount + 1);
     if (h > 0)
         d->title->setFixedHeight(h);

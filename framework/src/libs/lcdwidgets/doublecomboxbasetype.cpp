@@ -1,7 +1,9 @@
 #include "doublecomboxbasetype.h"
+#include "inputcheck_p.h"
 
 #include "spinrow_p.h"
 
+#include <QPointer>
 #include <QApplication>
 #include <QDebug>
 #include <QHBoxLayout>
@@ -29,7 +31,10 @@ struct LCDWIDGETS_HIDDEN DoubleComboxBaseType::Impl
         backSeen = false;
         startSeen = false;
         stage = which; // set first: the choice may end at once
+        QPointer<DoubleComboxBaseType> const self(q);
         choice->editValue();
+        if (!self)
+            return false; // deleted while the choice opened (this Impl with it)
         if (startSeen)
             return true;
         stage = 0;
@@ -179,7 +184,16 @@ void DoubleComboxBaseType::editValue()
 {
     if (!d->first || d->stage != 0)
         return;
-    if (d->open(d->first, 1) || d->open(d->second, 2)) {
+    QPointer<DoubleComboxBaseType> const self(this);
+    bool opened = d->open(d->first, 1);
+    if (!self)
+        return;
+    if (!opened) {
+        opened = d->open(d->second, 2);
+        if (!self)
+            return;
+    }
+    if (opened) {
         setEdit(true);
         emit signalEditStarted();
         return;
@@ -206,6 +220,8 @@ void DoubleComboxBaseType::setContentFontSize(int size)
         qDebug() << "[DoubleComboxBaseType] setContentFontSize: font size must be positive, got" << size;
         return;
     }
+    if (!fontSizeOk("DoubleComboxBaseType", "setContentFontSize", size))
+        return;
     CommonItemType::setContentFontSize(size);
     if (!d->first)
         return;

@@ -1,4 +1,5 @@
 #include "dropcombobox.h"
+#include "inputcheck_p.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -310,6 +311,8 @@ bool DropCombobox::isCurrentItem() const { return d->current; }
 
 void DropCombobox::setArrowSize(QSize size)
 {
+    if (!sizeOk("DropCombobox", "setArrowSize", size))
+        return;
     d->arrow = (size.width() >= 0 && size.height() >= 0) ? size : QSize();
     applySheet();
     setComboBoxMaxWidth();

@@ -1,4 +1,5 @@
 #include "expandabletable.h"
+#include "inputcheck_p.h"
 
 #include "wraplistdelegate.h"
 
@@ -190,6 +191,8 @@ void ExpandableTable::setContentFontSize(int size)
         qDebug() << "[ExpandableTable] setContentFontSize: font size must be positive, got" << size;
         return;
     }
+    if (!fontSizeOk("ExpandableTable", "setContentFontSize", size))
+        return;
     QFont f = font();
     f.setPixelSize(size);
     setFont(f);

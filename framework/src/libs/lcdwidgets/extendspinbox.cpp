@@ -1,4 +1,5 @@
 #include "extendspinbox.h"
+#include "inputcheck_p.h"
 
 #include "stylehelper.h"
 
@@ -83,16 +84,25 @@ void ExtendSpinBox::setDisplayText(QString const& text)
 
 QString ExtendSpinBox::displayText() const { return m_display->text(); }
 
-void ExtendSpinBox::resetWidth(int width) { m_display->setFixedWidth(qMax(0, width)); }
+void ExtendSpinBox::resetWidth(int width)
+{
+    if (!lengthOk("ExtendSpinBox", "resetWidth", qMax(0, width)))
+        return;
+    m_display->setFixedWidth(qMax(0, width));
+}
 
 void ExtendSpinBox::resetIconSize(QSize size)
 {
+    if (!sizeOk("ExtendSpinBox", "resetIconSize", size))
+        return;
     m_left->setFixedSize(size);
     m_right->setFixedSize(size);
 }
 
 void ExtendSpinBox::setContentFontSize(int size)
 {
+    if (!fontSizeOk("ExtendSpinBox", "setContentFontSize", size))
+        return;
     m_display->setStyleSheet(QStringLiteral("QLabel{font-size:%1px;}").arg(size));
 }
 

@@ -1,4 +1,5 @@
 #include "lineeditorwidget.h"
+#include "inputcheck_p.h"
 
 #include "nsignallineedit.h"
 #include "qmlineedit.h"
@@ -118,6 +119,8 @@ void LineEditorWidget::setContentFontSize(int size)
         qWarning().noquote() << QStringLiteral("[LineEditorWidget] setContentFontSize: %1 is not a size, ignored").arg(size);
         return;
     }
+    if (!fontSizeOk("LineEditorWidget", "setContentFontSize", size))
+        return;
     CommonItemType::setContentFontSize(size);
     for (QWidget* w : {static_cast<QWidget*>(d->editor), static_cast<QWidget*>(d->unit)}) {
         QFont f = w->font();

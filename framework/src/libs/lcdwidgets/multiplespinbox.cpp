@@ -1,4 +1,5 @@
 #include "multiplespinbox.h"
+#include "inputcheck_p.h"
 
 #include "lcdspinbox.h"
 #include "spinrow_p.h"
@@ -81,6 +82,8 @@ bool MultipleSpinBoxItem::isCurrent() const { return d->current; }
 
 void MultipleSpinBoxItem::setFontSize(int size)
 {
+    if (!fontSizeOk("MultipleSpinBoxItem", "setFontSize", size))
+        return;
     d->fontSize = size;
     for (QWidget* w : {static_cast<QWidget*>(d->title), static_cast<QWidget*>(d->spinBox)}) {
         QFont f = w->font();
@@ -332,6 +335,8 @@ void MultipleSpinBox::setContentFontSize(int size)
         qWarning().noquote() << QStringLiteral("[MultipleSpinBox] setContentFontSize: %1 is not a size, ignored").arg(size);
         return;
     }
+    if (!fontSizeOk("MultipleSpinBox", "setContentFontSize", size))
+        return;
     CommonItemType::setContentFontSize(size);
     for (MultipleSpinBoxItem* item : d->items)
         item->setFontSize(size);

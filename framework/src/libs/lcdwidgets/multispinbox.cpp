@@ -1,4 +1,5 @@
 #include "multispinbox.h"
+#include "inputcheck_p.h"
 
 #include "lcdspinbox.h"
 #include "spinfields_p.h"
@@ -159,6 +160,8 @@ void MultiSpinBox::setContentFontSize(int size)
         qWarning().noquote() << QStringLiteral("[MultiSpinBox] setContentFontSize: %1 is not a size, ignored").arg(size);
         return;
     }
+    if (!fontSizeOk("MultiSpinBox", "setContentFontSize", size))
+        return;
     CommonItemType::setContentFontSize(size);
     d->fields->setFontSize(size);
 }

@@ -1,4 +1,5 @@
 #include "nqlistwidget.h"
+#include "inputcheck_p.h"
 
 #include "dropcombobox.h"
 #include "knoblevel.h"
@@ -86,6 +87,8 @@ void NQListWidget::setContentFontSize(int size)
         qDebug() << "[NQListWidget] setContentFontSize: font size must be positive, got" << size;
         return;
     }
+    if (!fontSizeOk("NQListWidget", "setContentFontSize", size))
+        return;
     d->fontSize = size;
     QFont f = font();
     f.setPixelSize(size);

@@ -1,4 +1,5 @@
 #include "picturecheckwidget.h"
+#include "inputcheck_p.h"
 
 #include "choicekeys_p.h"
 
@@ -219,6 +220,8 @@ void PictureCheckWidget::setPictureSize(QSize size)
                                   .arg(size.height());
         return;
     }
+    if (!sizeOk("PictureCheckWidget", "setPictureSize", size))
+        return;
     d->pictureSize = size;
     for (QToolButton* b : d->buttons)
         d->applySize(b);
@@ -232,6 +235,8 @@ void PictureCheckWidget::setContentFontSize(int size)
         qDebug().noquote() << "[PictureCheckWidget] setContentFontSize: font size must be positive, got" << size;
         return;
     }
+    if (!fontSizeOk("PictureCheckWidget", "setContentFontSize", size))
+        return;
     d->fontSize = size;
     d->grid->setSpacing(qMax(2, size / 3));
     for (QToolButton* b : d->buttons)

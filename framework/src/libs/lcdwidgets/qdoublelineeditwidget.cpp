@@ -27,7 +27,12 @@ QDoubleLineEditWidget::QDoubleLineEditWidget(QString const& title, QString const
     connect(d->editor, &NDoubleLineEdit::signalEditFinished, this, &QDoubleLineEditWidget::signalEditFinished);
 }
 
-QDoubleLineEditWidget::~QDoubleLineEditWidget() = default;
+QDoubleLineEditWidget::~QDoubleLineEditWidget()
+{
+    // The editor ends a running edit when it loses the focus while the children go:
+    // its signals must no longer reach this (by then only a QFrame).
+    d->editor->disconnect(this);
+}
 
 NDoubleLineEdit* QDoubleLineEditWidget::editor() const { return d->editor; }
 void QDoubleLineEditWidget::setTitle(QString const& title) { d->title->setText(title); }

@@ -27,7 +27,12 @@ QSignalLineEditWidget::QSignalLineEditWidget(QString const& title, QString const
     connect(d->editor, &NSignalLineEdit::signalEditFinished, this, &QSignalLineEditWidget::signalEditFinished);
 }
 
-QSignalLineEditWidget::~QSignalLineEditWidget() = default;
+QSignalLineEditWidget::~QSignalLineEditWidget()
+{
+    // The editor ends a running edit when it loses the focus while the children go:
+    // its signals must no longer reach this (by then only a QFrame).
+    d->editor->disconnect(this);
+}
 
 NSignalLineEdit* QSignalLineEditWidget::editor() const { return d->editor; }
 void QSignalLineEditWidget::setTitle(QString const& title) { d->title->setText(title); }

@@ -1,4 +1,5 @@
 #include "rolllabel.h"
+#include "inputcheck_p.h"
 
 #include <QEvent>
 #include <QPainter>
@@ -11,6 +12,9 @@ RollLabel::~RollLabel() = default;
 
 void RollLabel::setWidth(int width)
 {
+    // Below 1: no fixed width wanted (the label takes its text as it is).
+    if (!LCD::Widget::lengthOk("RollLabel", "setWidth", qMax(0, width)))
+        return;
     m_width = width;
     setFixedWidth(qMax(0, width));
 }
@@ -44,6 +48,15 @@ void RollLabel::setCalTextLabel(QString const& text, int width, bool roll)
 
 void RollLabel::setspeed(int step, int interval)
 {
+    if (interval < 1) {
+        qWarning().noquote() << QStringLiteral("[RollLabel] setspeed: interval %1 refused").arg(interval);
+        return;
+    }
+    // A step is a few pixels a tick; beyond a screen's width it is no marquee.
+    if (step < 1 || step > 10000) {
+        qWarning().noquote() << QStringLiteral("[RollLabel] setspeed: step %1 refused").arg(step);
+        return;
+    }
     m_step = step;
     m_interval = interval;
 }

@@ -1,4 +1,5 @@
 #include "typecoloradjust.h"
+#include "inputcheck_p.h"
 
 #include "lcdspinbox.h"
 #include "spinfields_p.h"
@@ -154,6 +155,8 @@ void TypeColorAdjust::setContentFontSize(int size)
         qWarning().noquote() << QStringLiteral("[TypeColorAdjust] setContentFontSize: %1 is not a size, ignored").arg(size);
         return;
     }
+    if (!fontSizeOk("TypeColorAdjust", "setContentFontSize", size))
+        return;
     CommonItemType::setContentFontSize(size);
     d->fields->setFontSize(size);
 }

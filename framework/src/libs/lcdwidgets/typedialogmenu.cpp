@@ -1,10 +1,12 @@
 #include "typedialogmenu.h"
+#include "inputcheck_p.h"
 
 #include "dialogmenuwidget.h"
 #include "ellipsislabel.h"
 #include "spinrow_p.h"
 #include "stylehelper.h"
 
+#include <QPointer>
 #include <QApplication>
 #include <QDebug>
 #include <QHBoxLayout>
@@ -342,7 +344,11 @@ void TypeDialogMenu::editValue()
     d->dialog->listWidget()->setFocus(Qt::OtherFocusReason);
     // Take the window system's late report of the activation now, while the menu is
     // shown: taken after it has closed it would make a hidden window the active one.
+    // Timers may run here too: one of them may delete this row.
+    QPointer<TypeDialogMenu> const self(this);
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    if (!self)
+        return;
     setEdit(true);
     emit signalEditStarted();
 }
@@ -359,6 +365,8 @@ void TypeDialogMenu::closeEditValue()
 
 void TypeDialogMenu::setContentFontSize(int size)
 {
+    if (!fontSizeOk("TypeDialogMenu", "setContentFontSize", size))
+        return;
     CommonItemType::setContentFontSize(size);
     int const f = contentFontSize();
     if (f <= 0)

@@ -1,4 +1,5 @@
 #include "typefloatadjust.h"
+#include "inputcheck_p.h"
 
 #include "lcdspinbox.h"
 #include "spinrow_p.h"
@@ -110,6 +111,8 @@ void TypeFloatAdjust::setContentDisabled(bool disabled) const
 
 void TypeFloatAdjust::setContentFontSize(int size)
 {
+    if (!fontSizeOk("TypeFloatAdjust", "setContentFontSize", size))
+        return;
     CommonItemType::setContentFontSize(size);
     d->spinBox->setStyleSheet(
         QStringLiteral("QAbstractSpinBox{font-size:%1px; border-radius:%2px; }").arg(size).arg(itemHeight() / 9));

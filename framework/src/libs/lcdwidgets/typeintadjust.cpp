@@ -1,4 +1,5 @@
 #include "typeintadjust.h"
+#include "inputcheck_p.h"
 
 #include "lcdspinbox.h"
 #include "spinrow_p.h"
@@ -131,6 +132,8 @@ void TypeIntAdjust::setContentDisabled(bool disabled) const
 
 void TypeIntAdjust::setContentFontSize(int size)
 {
+    if (!fontSizeOk("TypeIntAdjust", "setContentFontSize", size))
+        return;
     CommonItemType::setContentFontSize(size);
     d->spinBox->setStyleSheet(fontSheet());
     setSpinBoxWidth();

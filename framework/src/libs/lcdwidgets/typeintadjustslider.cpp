@@ -1,4 +1,5 @@
 #include "typeintadjustslider.h"
+#include "inputcheck_p.h"
 
 #include "lcdspinbox.h"
 #include "spinrow_p.h"
@@ -138,6 +139,8 @@ void TypeIntAdjustSlider::setContentDisabled(bool disabled) const
 
 void TypeIntAdjustSlider::setContentFontSize(int size)
 {
+    if (!fontSizeOk("TypeIntAdjustSlider", "setContentFontSize", size))
+        return;
     CommonItemType::setContentFontSize(size);
     d->spinBox->setStyleSheet(fontSheet());
     setSpinBoxWidth();

@@ -1,4 +1,5 @@
 #include "typeitemarrow.h"
+#include "inputcheck_p.h"
 
 #include "displaytext_p.h"
 
@@ -107,6 +108,8 @@ void TypeItemArrow::setContentDisabled(bool disabled) const
 
 void TypeItemArrow::setContentFontSize(int size)
 {
+    if (!fontSizeOk("TypeItemArrow", "setContentFontSize", size))
+        return;
     CommonItemType::setContentFontSize(size);
     QString const sheet = spacedLabelFontSheet(size);
     for (int i = 0; i < kValueLabelCount; ++i) {

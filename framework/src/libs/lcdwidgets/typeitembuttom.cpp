@@ -1,4 +1,5 @@
 #include "typeitembuttom.h"
+#include "inputcheck_p.h"
 
 #include "displaytext_p.h"
 
@@ -95,6 +96,8 @@ void TypeItemButtom::setContentEnabled(bool enabled)
 
 void TypeItemButtom::setContentFontSize(int size)
 {
+    if (!fontSizeOk("TypeItemButtom", "setContentFontSize", size))
+        return;
     CommonItemType::setContentFontSize(size);
     d->value->setStyleSheet(labelFontSheet(size));
     showValue();

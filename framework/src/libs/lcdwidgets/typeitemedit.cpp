@@ -1,4 +1,5 @@
 #include "typeitemedit.h"
+#include "inputcheck_p.h"
 
 #include <QFocusEvent>
 #include <QHBoxLayout>
@@ -88,6 +89,8 @@ void TypeItemEdit::setContentDisabled(bool disabled) const
 
 void TypeItemEdit::setContentFontSize(int size)
 {
+    if (!fontSizeOk("TypeItemEdit", "setContentFontSize", size))
+        return;
     CommonItemType::setContentFontSize(size);
     d->edit->setStyleSheet(QStringLiteral("QLineEdit{font-size: ") + QString::number(size) + QStringLiteral("px; }"));
 }
@@ -108,11 +111,18 @@ void TypeItemEdit::setPlaceholderText(QString const& text) { d->edit->setPlaceho
 
 void TypeItemEdit::setValueLabelSize(QSize size)
 {
+    if (!sizeOk("TypeItemEdit", "setValueLabelSize", size))
+        return;
     d->fixedEditSize = true;
     d->edit->setFixedSize(size);
 }
 
-void TypeItemEdit::setIconButtonSize(QSize size) { d->button->setFixedSize(size); }
+void TypeItemEdit::setIconButtonSize(QSize size)
+{
+    if (!sizeOk("TypeItemEdit", "setIconButtonSize", size))
+        return;
+    d->button->setFixedSize(size);
+}
 
 QLineEdit* TypeItemEdit::lineEdit() const { return d->edit; }
 

@@ -1,4 +1,5 @@
 #include "typeitemlinewrap.h"
+#include "inputcheck_p.h"
 
 #include "displaytext_p.h"
 
@@ -155,6 +156,8 @@ void TypeItemLineWrap::setContentDisabled(bool disabled) const
 
 void TypeItemLineWrap::setContentFontSize(int size)
 {
+    if (!fontSizeOk("TypeItemLineWrap", "setContentFontSize", size))
+        return;
     CommonItemType::setContentFontSize(size);
     QString const sheet = labelFontSheet(size);
     for (QLabel* label : qAsConst(d->labels))

@@ -1,4 +1,5 @@
 #include "typeitemmore.h"
+#include "inputcheck_p.h"
 
 #include "displaytext_p.h"
 
@@ -121,6 +122,8 @@ void TypeItemMore::setContentDisabled(bool disabled) const
 
 void TypeItemMore::setContentFontSize(int size)
 {
+    if (!fontSizeOk("TypeItemMore", "setContentFontSize", size))
+        return;
     CommonItemType::setContentFontSize(size);
     d->value->setStyleSheet(labelFontSheet(size));
 }

@@ -1,4 +1,5 @@
 #include "typeitemmultipicturecheck.h"
+#include "inputcheck_p.h"
 
 #include "picturecheckwidget.h"
 #include "spinrow_p.h"
@@ -93,6 +94,8 @@ void TypeItemMultiPictureCheck::setContentFontSize(int size)
         qDebug() << "[TypeItemMultiPictureCheck] setContentFontSize: font size must be positive, got" << size;
         return;
     }
+    if (!fontSizeOk("TypeItemMultiPictureCheck", "setContentFontSize", size))
+        return;
     CommonItemType::setContentFontSize(size);
     d->grid->setContentFontSize(size);
 }

@@ -1,4 +1,5 @@
 #include "typeitemsliderlist.h"
+#include "inputcheck_p.h"
 
 #include "knoblevel.h"
 #include "spinrow_p.h"
@@ -323,6 +324,8 @@ void TypeItemSliderList::setContentFontSize(int size)
         qDebug() << "[TypeItemSliderList] setContentFontSize: font size must be positive, got" << size;
         return;
     }
+    if (!fontSizeOk("TypeItemSliderList", "setContentFontSize", size))
+        return;
     CommonItemType::setContentFontSize(size);
     QFont f = d->text->font();
     f.setPixelSize(size);

@@ -1,4 +1,5 @@
 #include "typeitemtext.h"
+#include "inputcheck_p.h"
 
 #include "displaytext_p.h"
 
@@ -87,6 +88,8 @@ void TypeItemText::setContentDisabled(bool disabled) const
 
 void TypeItemText::setContentFontSize(int size)
 {
+    if (!fontSizeOk("TypeItemText", "setContentFontSize", size))
+        return;
     CommonItemType::setContentFontSize(size);
     d->valueLabel->setStyleSheet(labelFontSheet(size));
     int const side = itemIconSide(itemHeight());
@@ -105,6 +108,8 @@ QFont TypeItemText::valueLabelFont() const { return d->valueLabel->font(); }
 
 void TypeItemText::setValueLabelSize(QSize size)
 {
+    if (!sizeOk("TypeItemText", "setValueLabelSize", size))
+        return;
     d->valueLabel->setMaximumHeight(size.height());
     d->valueLabel->setMinimumWidth(size.width());
 }
@@ -116,10 +121,18 @@ void TypeItemText::setIconButtonProperty(std::string const& name, QVariant value
     setStyleProperty(d->iconButton, name.c_str(), value);
 }
 
-void TypeItemText::setIconButtonSize(QSize size) { d->iconButton->setFixedSize(size); }
+void TypeItemText::setIconButtonSize(QSize size)
+{
+    if (!sizeOk("TypeItemText", "setIconButtonSize", size))
+        return;
+    d->iconButton->setFixedSize(size);
+}
 
 void TypeItemText::rightDistanceCorrection(int width)
 {
+    // A refused width leaves the process-wide once-flag unused.
+    if (!lengthOk("TypeItemText", "rightDistanceCorrection", width))
+        return;
     std::call_once(g_rightDistanceOnce, [this, width] {
         dynamicLayout()->addSpacerItem(new QSpacerItem(width, 0, QSizePolicy::Fixed, QSizePolicy::Fixed));
     });
@@ -172,6 +185,8 @@ void TypeItemTextCenter::setContentDisabled(bool disabled) const { d->valueLabel
 
 void TypeItemTextCenter::setContentFontSize(int size)
 {
+    if (!fontSizeOk("TypeItemTextCenter", "setContentFontSize", size))
+        return;
     CommonItemType::setContentFontSize(size);
     d->valueLabel->setStyleSheet(labelFontSheet(size));
 }
@@ -203,6 +218,8 @@ QFont TypeItemTextCenter::valueLabelFont() const { return d->valueLabel->font();
 
 void TypeItemTextCenter::setValueLabelSize(QSize size)
 {
+    if (!sizeOk("TypeItemTextCenter", "setValueLabelSize", size))
+        return;
     d->fixedValueWidth = true;
     d->valueLabel->setMaximumHeight(size.height());
     d->valueLabel->setMinimumWidth(size.width());

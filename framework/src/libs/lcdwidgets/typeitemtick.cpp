@@ -1,4 +1,5 @@
 #include "typeitemtick.h"
+#include "inputcheck_p.h"
 
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -46,7 +47,12 @@ void TypeItemTick::editValue()
 
 QVariant TypeItemTick::getLabelValue() { return QVariant(d->tick->property("isIconListTick").toBool()); }
 
-void TypeItemTick::setRightIconSize(QSize size) { d->tick->setFixedSize(size); }
+void TypeItemTick::setRightIconSize(QSize size)
+{
+    if (!sizeOk("TypeItemTick", "setRightIconSize", size))
+        return;
+    d->tick->setFixedSize(size);
+}
 
 void TypeItemTick::setContentDisabled(bool disabled) const { d->tick->setDisabled(disabled); }
 

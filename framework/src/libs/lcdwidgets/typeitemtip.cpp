@@ -1,4 +1,5 @@
 #include "typeitemtip.h"
+#include "inputcheck_p.h"
 
 #include "displaytext_p.h"
 
@@ -78,16 +79,25 @@ void TypeItemTip::setContentFontSize(int size)
         qWarning() << "Invalid font size:" << size;
         return;
     }
+    if (!fontSizeOk("TypeItemTip", "setContentFontSize", size))
+        return;
     CommonItemType::setContentFontSize(size);
-    d->text->setStyleSheet(spacedLabelFontSheet(static_cast<int>(size * 0.8)));
+    d->text->setStyleSheet(spacedLabelFontSheet(qMax(1, static_cast<int>(size * 0.8))));
 }
 
-void TypeItemTip::setLeftIconSize(QSize size) { d->icon->setFixedSize(size); }
+void TypeItemTip::setLeftIconSize(QSize size)
+{
+    if (!sizeOk("TypeItemTip", "setLeftIconSize", size))
+        return;
+    d->icon->setFixedSize(size);
+}
 
 void TypeItemTip::setIconHidden(bool hidden) { d->icon->setHidden(hidden); }
 
 void TypeItemTip::setTextLabelWidth(int width)
 {
+    if (!lengthOk("TypeItemTip", "setTextLabelWidth", qMax(0, width)))
+        return;
     d->textWidth = qMax(0, width);
     if (d->textWidth > 0)
         d->text->setFixedWidth(d->textWidth);

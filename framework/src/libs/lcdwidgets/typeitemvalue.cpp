@@ -1,4 +1,5 @@
 #include "typeitemvalue.h"
+#include "inputcheck_p.h"
 
 #include "displaytext_p.h"
 
@@ -127,6 +128,8 @@ void TypeItemValue::setContentDisabled(bool disabled) const
 
 void TypeItemValue::setContentFontSize(int size)
 {
+    if (!fontSizeOk("TypeItemValue", "setContentFontSize", size))
+        return;
     CommonItemType::setContentFontSize(size);
     d->valueLabel->setStyleSheet(labelFontSheet(size));
     int const side = itemIconSide(itemHeight());
@@ -214,6 +217,8 @@ void TypeItemValueBorder::setContentDisabled(bool disabled) const { d->valueLabe
 
 void TypeItemValueBorder::setContentFontSize(int size)
 {
+    if (!fontSizeOk("TypeItemValueBorder", "setContentFontSize", size))
+        return;
     CommonItemType::setContentFontSize(size);
     d->valueLabel->setStyleSheet(labelFontSheet(size));
 }

@@ -1,4 +1,5 @@
 #include "typekeyvaluetext.h"
+#include "inputcheck_p.h"
 
 #include "displaytext_p.h"
 
@@ -105,6 +106,8 @@ int TypeKeyValueText::getItemValueRow() const { return d->valueRows; }
 
 void TypeKeyValueText::setValueLabelSize(QSize size)
 {
+    if (!sizeOk("TypeKeyValueText", "setValueLabelSize", size))
+        return;
     d->valueLabel->setMaximumHeight(size.height());
     d->valueLabel->setMinimumWidth(size.width());
 }
@@ -113,6 +116,8 @@ void TypeKeyValueText::setContentDisabled(bool disabled) const { d->valueLabel->
 
 void TypeKeyValueText::setContentFontSize(int size)
 {
+    if (!fontSizeOk("TypeKeyValueText", "setContentFontSize", size))
+        return;
     CommonItemType::setContentFontSize(size);
     d->valueLabel->setStyleSheet(labelFontSheet(size));
     relayout();

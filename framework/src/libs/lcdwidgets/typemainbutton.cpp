@@ -1,4 +1,5 @@
 #include "typemainbutton.h"
+#include "inputcheck_p.h"
 
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -59,12 +60,16 @@ void TypeMainButton::setItemTitleWidth(int width)
 
 void TypeMainButton::setLeftIconSize(QSize size)
 {
+    if (!sizeOk("TypeMainButton", "setLeftIconSize", size))
+        return;
     CommonItemType::setLeftIconSize(size);
     fitTitle();
 }
 
 void TypeMainButton::setRightIconSize(QSize size)
 {
+    if (!sizeOk("TypeMainButton", "setRightIconSize", size))
+        return;
     CommonItemType::setRightIconSize(size);
     fitTitle();
 }

@@ -1,4 +1,5 @@
 #include "typemultitemtext.h"
+#include "inputcheck_p.h"
 
 #include "displaytext_p.h"
 
@@ -149,8 +150,10 @@ void TypeMultItemText::setContentFontSize(int size)
         qWarning() << "Invalid font size:" << size;
         return;
     }
+    if (!fontSizeOk("TypeMultItemText", "setContentFontSize", size))
+        return;
     CommonItemType::setContentFontSize(size);
-    QString const sheet = spacedLabelFontSheet(static_cast<int>(size * 0.9));
+    QString const sheet = spacedLabelFontSheet(qMax(1, static_cast<int>(size * 0.9)));
     for (RollLabel* label : qAsConst(d->labels))
         label->setStyleSheet(sheet);
 }
@@ -225,6 +228,8 @@ void TypeKeyCheck::setContentDisabled(bool disabled) const
 
 void TypeKeyCheck::setContentFontSize(int size)
 {
+    if (!fontSizeOk("TypeKeyCheck", "setContentFontSize", size))
+        return;
     CommonItemType::setContentFontSize(size);
     QString const sheet = labelFontSheet(size);
     for (QLabel* label : d->labels)

@@ -1,4 +1,5 @@
 #include "typespinadjust.h"
+#include "inputcheck_p.h"
 
 #include "extendspinbox.h"
 
@@ -65,6 +66,8 @@ void TypeSpinAdjust::setContentDisabled(bool) const {}
 
 void TypeSpinAdjust::setLeftIconSize(QSize size)
 {
+    if (!sizeOk("TypeSpinAdjust", "setLeftIconSize", size))
+        return;
     CommonItemType::setLeftIconSize(size);
     d->left->resetIconSize(size);
     d->right->resetIconSize(size);
@@ -72,6 +75,8 @@ void TypeSpinAdjust::setLeftIconSize(QSize size)
 
 void TypeSpinAdjust::setContentFontSize(int size)
 {
+    if (!fontSizeOk("TypeSpinAdjust", "setContentFontSize", size))
+        return;
     CommonItemType::setContentFontSize(size);
     QString const sheet = QStringLiteral("QFrame{border-radius:%1px;}").arg(itemHeight() / 9);
     for (ExtendSpinBox* box : {d->left, d->right}) {
@@ -92,6 +97,8 @@ void TypeSpinAdjust::slotUpdateItemWidth(int width)
 {
     // The share is the whole control's width; its text takes what the buttons leave.
     int const w = qMax(0, static_cast<int>(width * kBoxWidthShare));
+    if (!lengthOk("TypeSpinAdjust", "slotUpdateItemWidth", w))
+        return;
     d->left->setFixedWidth(w);
     d->right->setFixedWidth(w);
 }

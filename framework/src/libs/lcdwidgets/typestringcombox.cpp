@@ -1,9 +1,11 @@
 #include "typestringcombox.h"
+#include "inputcheck_p.h"
 
 #include "dropcombobox.h"
 #include "spinrow_p.h"
 #include "stylehelper.h"
 
+#include <QPointer>
 #include <QAbstractItemView>
 #include <QDebug>
 #include <QHBoxLayout>
@@ -315,7 +317,10 @@ void TypeStringCombox::editValue()
     }
     if (d->combo->isPopupVisible() || d->combo->isCustomPopupVisible())
         return;
+    QPointer<TypeStringCombox> const self(this);
     showPopup(false);
+    if (!self)
+        return;
     if (d->combo->isPopupVisible() || d->combo->isCustomPopupVisible()) {
         d->editing = true;
         setEdit(true);
@@ -349,7 +354,11 @@ void TypeStringCombox::showPopup(bool quiet)
         return;
     }
     d->placingCursor = true;
+    // The drop-down lets pending events run while it opens: a timer may delete this row.
+    QPointer<TypeStringCombox> const self(this);
     d->combo->showPopup();
+    if (!self)
+        return;
     if (!d->combo->usesCustomPopup())
         d->standardUsed = true;
     list = d->activeList();
@@ -411,12 +420,16 @@ void TypeStringCombox::setRightIconSize(QSize size)
         qDebug() << "[TypeStringCombox] setRightIconSize: negative size refused:" << size;
         return;
     }
+    if (!sizeOk("TypeStringCombox", "setRightIconSize", size))
+        return;
     CommonItemType::setRightIconSize(size);
     d->combo->setArrowSize(size);
 }
 
 void TypeStringCombox::setContentFontSize(int size)
 {
+    if (!fontSizeOk("TypeStringCombox", "setContentFontSize", size))
+        return;
     CommonItemType::setContentFontSize(size);
     int const f = contentFontSize();
     if (f > 0)
@@ -431,7 +444,7 @@ void TypeStringCombox::setItemHeight(int height)
     CommonItemType::setItemHeight(height);
     int const h = itemHeight();
     if (h > 0)
-        d->combo->setHeight(h * 5 / 7);
+        d->combo->setHeight(static_cast<int>(qint64(h) * 5 / 7));  // wide: any height is safe
 }
 
 void TypeStringCombox::setHomeRect(QRect rect)
@@ -459,6 +472,8 @@ void TypeStringCombox::setIconSize(QSize size)
         qDebug() << "[TypeStringCombox] setIconSize: negative size refused:" << size;
         return;
     }
+    if (!sizeOk("TypeStringCombox", "setIconSize", size))
+        return;
     d->combo->setIconSize(size);
 }
 

@@ -1,0 +1,7 @@
+#include "factories.h"
+
+namespace Monkey {
+
+void addDeviceClasses(std::vector<ClassEntry>&) {}
+
+} // namespace Monkey
