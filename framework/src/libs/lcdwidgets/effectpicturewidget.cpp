@@ -396,8 +396,10 @@ void TypeItemEffectPicture::setCurrentUserData(QVariant data) const { d->chooser
 
 void TypeItemEffectPicture::setContentFontSize(int size)
 {
-    CommonItemType::setContentFontSize(size);
+    // The chooser refuses (and logs) a size below 1; the row follows it.
     d->chooser->setContentFontSize(size);
+    if (size >= 1)
+        CommonItemType::setContentFontSize(size);
 }
 
 void TypeItemEffectPicture::setContentDisabled(bool disabled) const { d->chooser->setContentDisabled(disabled); }

@@ -183,7 +183,8 @@ void ReminderToastDialog::setDialogSize(QSize size)
         qWarning().noquote() << kWho << "setDialogSize: negative size refused" << size;
         return;
     }
-    size = size.boundedTo(QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
+    // No dialog is larger than the host's screen (nor could one be painted).
+    size = size.boundedTo(d->rect.size());
     setFixedSize(size);
     d->frame->setFixedSize(size);
     d->text->setFixedWidth(size.width() * 4 / 5);

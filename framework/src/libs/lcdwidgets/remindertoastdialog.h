@@ -41,6 +41,7 @@ public:
     void setDialgIcon(LCD::Widget::Enum::DialogType type);
     // Whether showing starts the close timer; a toast without it stays until closed.
     void setBStartTimer(bool start);
+    // A negative size is refused; one beyond the host rectangle is cut to it.
     void setDialogSize(QSize size);
     int getReminderToastDialogWidth() const;
     int getReminderToastDialogHeight() const;
