@@ -11,6 +11,7 @@
 #include <QTimer>
 #include <QToolButton>
 #include <QtTest>
+#include <climits>
 #include <memory>
 
 using namespace LCD::Widget;
@@ -177,6 +178,12 @@ private slots:
         QString const sized = row.button(1)->styleSheet();
         QTest::ignoreMessage(QtDebugMsg, "Invalid button size: 0");
         row.setBtnSize(0);
+        QCOMPARE(row.button(1)->styleSheet(), sized);
+        // Too small for a height (the style takes 0 for unset) or past any font: refused.
+        QTest::ignoreMessage(QtDebugMsg, "Invalid button size: 2");
+        row.setBtnSize(2);
+        QTest::ignoreMessage(QtDebugMsg, "Invalid button size: 2147483647");
+        row.setBtnSize(INT_MAX);
         QCOMPARE(row.button(1)->styleSheet(), sized);
         QTest::ignoreMessage(QtDebugMsg, "MultipleSelectBtn::setBtnText: invalid index 3");
         row.setBtnText(3, QStringLiteral("x"));

@@ -16,6 +16,11 @@ namespace DialogUtil {
 
 QRect hostRect(QRect const& rect, char const* who)
 {
+    if (rect.width() > kMaxHostSide || rect.height() > kMaxHostSide) {
+        // No screen is that large: a window sized from it could not even be painted.
+        qWarning().noquote() << who << "host rectangle is larger than any screen, using 800x480";
+        return QRect(0, 0, kFallbackWidth, kFallbackHeight);
+    }
     if (rect.width() > 0 && rect.height() > 0)
         return rect;
     qWarning().noquote() << who << "host rectangle is empty, using 800x480";

@@ -21,8 +21,12 @@ namespace DialogUtil {
 constexpr int kFallbackWidth = 800;
 constexpr int kFallbackHeight = 480;
 
-// `rect` when it has a positive width and height; otherwise the warning
-// "<who> host rectangle is empty, using 800x480" and the panel's full screen.
+// The largest side of a host rectangle (a screen): 16K pixels.
+constexpr int kMaxHostSide = 16384;
+
+// `rect` when it has a positive width and height up to kMaxHostSide; otherwise the
+// warning "<who> host rectangle is empty, using 800x480" (or "... is larger than any
+// screen, using 800x480") and the panel's full screen.
 QRect hostRect(QRect const& rect, char const* who);
 
 // v · num / den in 64 bits, clamped to [0, QWIDGETSIZE_MAX] (a size or a spacing).
