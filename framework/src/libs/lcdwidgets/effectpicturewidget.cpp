@@ -182,7 +182,8 @@ void EffectPictureWidget::setCurrentUserData(QVariant data) const
 
 void EffectPictureWidget::setContentFontSize(int size)
 {
-    if (size < 1) {
+    // Beyond kMaxFontSize the preview's frames alone would take gigabytes.
+    if (size < 1 || size > kMaxFontSize) {
         qDebug().noquote().nospace() << "EffectPictureWidget::setContentFontSize: invalid font size " << size;
         return;
     }
@@ -396,9 +397,9 @@ void TypeItemEffectPicture::setCurrentUserData(QVariant data) const { d->chooser
 
 void TypeItemEffectPicture::setContentFontSize(int size)
 {
-    // The chooser refuses (and logs) a size below 1; the row follows it.
+    // The chooser refuses (and logs) a size it cannot take; the row follows it.
     d->chooser->setContentFontSize(size);
-    if (size >= 1)
+    if (size >= 1 && size <= EffectPictureWidget::kMaxFontSize)
         CommonItemType::setContentFontSize(size);
 }
 
