@@ -706,6 +706,7 @@ QStringList lockWarnings()
             "^\\[LockPanel\\] host rectangle is (empty|larger than any screen), using 800x480$",
             "^\\[LockReminderDialog\\] timeout close$", "^\\[LockReminderDialog\\] parent destroyed: closing$",
             "^\\[LockReminderDialog\\] setDisplayTime: negative time -?\\d+ refused$",
+            "^\\[LockReminderDialog\\] exec: already running, refused$",
             "^\\[LockReminderDialog\\] host rectangle is (empty|larger than any screen), using 800x480$",
             "^\\[LockReminderDialog\\] remind: text is empty: nothing shown$",
             "^\\[dialog\\] exec finish with -?\\d+$"};

@@ -177,6 +177,14 @@ void ReminderToastDialog::setBStartTimer(bool start)
         d->frameLayout->removeItem(d->spacer);
 }
 
+int ReminderToastDialog::exec()
+{
+    DialogUtil::ExecScope const scope(this, "exec");
+    if (scope.refused())
+        return QDialog::Rejected;
+    return QDialog::exec();
+}
+
 void ReminderToastDialog::setDialogSize(QSize size)
 {
     if (size.width() < 0 || size.height() < 0) {

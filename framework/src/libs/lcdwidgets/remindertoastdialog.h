@@ -47,6 +47,10 @@ public:
     int getReminderToastDialogHeight() const;
     float getFontSize() const;
 
+    // Runs the toast modally; a second run while one is under way is refused
+    // ("[ReminderToastDialog] exec: already running, refused") and answers Rejected.
+    int exec() override;
+
 public slots:
     void slotCloseDialog();
 
