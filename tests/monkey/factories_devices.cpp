@@ -670,7 +670,7 @@ ClassEntry effectPictureWidget()
     e.actions = {
         act<T>("setPictureData", [](T* w, Rng& r) {
             auto const choices = effectChoices(&r);
-            w->setPictureData(r.hostileText().left(500), r.coin() ? choices.value(choices.firstKey()).second : r.hostileText().left(200), choices);
+            w->setPictureData(r.hostileText().left(500), r.coin() && !choices.isEmpty() ? choices.first().second : r.hostileText().left(200), choices);
         }),
         act<T>("setCurrentValue", [](T* w, Rng& r) { w->setCurrentValue(r.coin() ? r.between(0, 6) : r.hostileInt()); }),
         act<T>("setCurrentUserData", [](T* w, Rng& r) { w->setCurrentUserData(r.coin() ? QVariant() : QVariant(r.hostileInt())); }),
@@ -696,7 +696,7 @@ ClassEntry typeItemEffectPicture()
     addRowActions<T>(e.actions, OwnFontSize);
     e.actions.push_back(act<T>("setPictureData", [](T* w, Rng& r) {
         auto const choices = effectChoices(&r);
-        w->setPictureData(r.hostileText().left(500), r.coin() ? choices.value(choices.firstKey()).second : r.hostileText().left(200), choices);
+        w->setPictureData(r.hostileText().left(500), r.coin() && !choices.isEmpty() ? choices.first().second : r.hostileText().left(200), choices);
     }));
     e.actions.push_back(act<T>("setCurrentValue", [](T* w, Rng& r) { w->setCurrentValue(r.coin() ? r.between(0, 6) : r.hostileInt()); }));
     e.actions.push_back(act<T>("setCurrentUserData", [](T* w, Rng& r) { w->setCurrentUserData(r.coin() ? QVariant() : QVariant(r.hostileInt())); }));

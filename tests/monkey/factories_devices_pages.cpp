@@ -315,7 +315,8 @@ ClassEntry typeItemTBarCalibration()
     e.actions.push_back(act<T>("getTBarValue", [](T* w, Rng&) { w->getTBarValue(); }));
     e.actions.push_back(act<T>("slotBtnClicked", [](T* w, Rng&) { w->slotBtnClicked(); }));
     e.actions.push_back(act<T>("stepLabel", [](T* w, Rng& r) { w->stepLabel(r.hostileInt()); }));
-    e.allowedWarnings = rowWarnings() << "^_pKeyBoard is nullptr$" << "^_pKeyBoard->tbarRead\\(\\)\\.second -?\\d+$";
+    e.allowedWarnings = rowWarnings() << "^\\[TypeItemTBarCalibration\\] setContentFontSize: size -?\\d+ refused$"
+                                      << "^_pKeyBoard is nullptr$" << "^_pKeyBoard->tbarRead\\(\\)\\.second -?\\d+$";
     return e;
 }
 

@@ -106,7 +106,7 @@ void DrawGraphicsScene::setCropRectInfo(CropRectInfoArray const& infos)
 
 void DrawGraphicsScene::setContentFontSize(int size)
 {
-    if (size < 1) {
+    if (size < 1 || size > 1024) { // no panel font is larger; the derived sizes would overflow
         qWarning() << "[DrawGraphicsScene] setContentFontSize: size refused:" << size;
         return;
     }

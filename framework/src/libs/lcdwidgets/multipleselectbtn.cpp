@@ -56,7 +56,13 @@ MultipleSelectBtn::MultipleSelectBtn(int index, int spacing, std::vector<ItemSel
     build(infos, style, qMax(0, spacing));
 }
 
-MultipleSelectBtn::~MultipleSelectBtn() = default;
+MultipleSelectBtn::~MultipleSelectBtn()
+{
+    // The focus leaves this row while its QWidget part is taken down: the slot must not
+    // run on the half-destroyed row.
+    if (qApp)
+        disconnect(qApp, &QApplication::focusChanged, this, nullptr);
+}
 
 void MultipleSelectBtn::build(std::vector<ItemSelectInfo> const& infos, Qt::ToolButtonStyle style, int spacing)
 {

@@ -85,7 +85,7 @@ void TypePreviewWidget::setContentDisabled(bool disabled) const { d->preview->se
 
 void TypePreviewWidget::setContentFontSize(int size)
 {
-    if (size < 1) {
+    if (size < 1 || size > 1024) { // no panel font is larger; the derived sizes would overflow
         qWarning() << "Invalid font size:" << size;
         return;
     }
