@@ -160,6 +160,19 @@ private slots:
         QCOMPARE(QApplication::focusWidget(), row->button(2)); // still remembered
     }
 
+    // The focus leaves a selection row while it is taken down: the row's focus slot
+    // must not run on the half-destroyed row (the sanitizers' type check watches).
+    void selectionRowDestroyedWithTheFocus()
+    {
+        auto host = activeHost();
+        auto* row = new MultipleSelectBtn(1, inputs(), host.get());
+        row->show();
+        row->button(1)->setFocus();
+        QCOMPARE(QApplication::focusWidget(), row->button(1));
+        delete row;
+        QVERIFY(!host->findChild<MultipleSelectBtn*>());
+    }
+
     void selectionRowSizingAndBadInput()
     {
         MultipleSelectBtn row(0, 12, inputs(), Qt::ToolButtonTextBesideIcon);
