@@ -37,12 +37,12 @@ PreviewWidget* TypePreviewWidget::preview() const { return d->preview; }
 
 void TypePreviewWidget::setPreviewHeight(int h)
 {
-    int const view = h - contentFontSize();
+    qint64 const view = qint64(h) - contentFontSize(); // h may be INT_MIN
     if (view < 1) {
         qWarning() << "[TypePreviewWidget] invalid preview height:" << h;
         return;
     }
-    d->preview->setDrawViewHeight(view);
+    d->preview->setDrawViewHeight(int(view));
 }
 
 void TypePreviewWidget::setLabelValue(QVariant value, int)
