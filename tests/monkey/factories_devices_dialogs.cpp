@@ -339,12 +339,12 @@ ClassEntry waitingDialog()
     };
     using L = WaitingDialog::TooltipLevel;
     e.actions = {
-        on("showWaitingDialog", [](WaitingDialog* w, Rng& r) { w->showWaitingDialog(r.hostileText(), hostileRect(r), L(r.between(0, 3))); }),
+        on("showWaitingDialog", [](WaitingDialog* w, Rng& r) { w->showWaitingDialog(dialogText(r), hostileRect(r), L(r.between(0, 3))); }),
         on("hideWaitingDialog", [](WaitingDialog* w, Rng&) { w->hideWaitingDialog(); }),
-        on("setInformativeText", [](WaitingDialog* w, Rng& r) { w->setInformativeText(r.hostileText(), L(r.between(0, 3))); }),
-        on("setFunButtonStatus", [](WaitingDialog* w, Rng& r) { w->setFunButtonStatus(r.coin(), r.hostileText(), r.hostileInt()); }),
+        on("setInformativeText", [](WaitingDialog* w, Rng& r) { w->setInformativeText(dialogText(r), L(r.between(0, 3))); }),
+        on("setFunButtonStatus", [](WaitingDialog* w, Rng& r) { w->setFunButtonStatus(r.coin(), dialogText(r), r.hostileInt()); }),
         on("setFunButtonVisible", [](WaitingDialog* w, Rng& r) { w->setFunButtonVisible(r.coin()); }),
-        on("setButtonText", [](WaitingDialog* w, Rng& r) { w->setButtonText(r.hostileText()); }),
+        on("setButtonText", [](WaitingDialog* w, Rng& r) { w->setButtonText(dialogText(r)); }),
         on("setButtonProperty", [](WaitingDialog* w, Rng& r) { w->setButtonProperty(r.hostileInt()); }),
         on("setFunButtonEnable", [](WaitingDialog* w, Rng& r) { w->setFunButtonEnable(r.coin()); }),
         Action{"attachToWidget", [](QWidget* h, Rng& r) {
