@@ -12,6 +12,7 @@
 #include <QTimer>
 #include <QToolButton>
 #include <QtTest>
+#include <climits>
 #include <memory>
 
 using namespace LCD::Widget;
@@ -160,6 +161,19 @@ private slots:
         QCOMPARE(QApplication::focusWidget(), row->button(2)); // still remembered
     }
 
+    // The focus leaves a selection row while it is taken down: the row's focus slot
+    // must not run on the half-destroyed row (the sanitizers' type check watches).
+    void selectionRowDestroyedWithTheFocus()
+    {
+        auto host = activeHost();
+        auto* row = new MultipleSelectBtn(1, inputs(), host.get());
+        row->show();
+        row->button(1)->setFocus();
+        QCOMPARE(QApplication::focusWidget(), row->button(1));
+        delete row;
+        QVERIFY(!host->findChild<MultipleSelectBtn*>());
+    }
+
     void selectionRowSizingAndBadInput()
     {
         MultipleSelectBtn row(0, 12, inputs(), Qt::ToolButtonTextBesideIcon);
@@ -178,6 +192,12 @@ private slots:
         QString const sized = row.button(1)->styleSheet();
         QTest::ignoreMessage(QtDebugMsg, "Invalid button size: 0");
         row.setBtnSize(0);
+        QCOMPARE(row.button(1)->styleSheet(), sized);
+        // Too small for a height (the style takes 0 for unset) or past any font: refused.
+        QTest::ignoreMessage(QtDebugMsg, "Invalid button size: 2");
+        row.setBtnSize(2);
+        QTest::ignoreMessage(QtDebugMsg, "Invalid button size: 2147483647");
+        row.setBtnSize(INT_MAX);
         QCOMPARE(row.button(1)->styleSheet(), sized);
         QTest::ignoreMessage(QtDebugMsg, "MultipleSelectBtn::setBtnText: invalid index 3");
         row.setBtnText(3, QStringLiteral("x"));

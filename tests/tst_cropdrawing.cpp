@@ -120,6 +120,12 @@ private slots:
         QCOMPARE(scene.sceneRect(), QRectF(0, 0, 1920, 1080));
         scene.initScene();
         QCOMPARE(scene.sceneRect(), QRectF(-196608, -196608, 393216, 393216));
+        // Rectangles a view cannot scroll (its ranges are int) are refused.
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^\\[DrawGraphicsScene\\] setSceneSize: rectangle refused:"));
+        scene.setSceneSize(QRectF(0, 0, 1e300, 10));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^\\[DrawGraphicsScene\\] setSceneSize: rectangle refused:"));
+        scene.setSceneSize(QRectF(std::nan(""), 0, 10, 10));
+        QCOMPARE(scene.sceneRect(), QRectF(-196608, -196608, 393216, 393216));
     }
 
     void viewIsSixteenByNine()

@@ -359,6 +359,9 @@ private slots:
         QCOMPARE(label.valueText(), QStringLiteral("0"));
         QTest::ignoreMessage(QtWarningMsg, "[DashBoardLabel] setContentFontSize: size refused: 0");
         label.setContentFontSize(0);
+        // Past any font the unit's 3/5 would overflow: refused.
+        QTest::ignoreMessage(QtWarningMsg, "[DashBoardLabel] setContentFontSize: size refused: 2147483647");
+        label.setContentFontSize(INT_MAX);
     }
 
     void contentFontSizeIsShared()
@@ -368,6 +371,8 @@ private slots:
         QCOMPARE(DashBoardWidget::getContentFontSize(), 32);
         QTest::ignoreMessage(QtWarningMsg, "[DashBoardWidget] setContentFontSize: size refused: 0");
         DashBoardWidget::setContentFontSize(0);
+        QTest::ignoreMessage(QtWarningMsg, "[DashBoardWidget] setContentFontSize: size refused: 100000");
+        DashBoardWidget::setContentFontSize(100000);
         QCOMPARE(DashBoardWidget::getContentFontSize(), 32);
         DashBoardWidget::setContentFontSize(before);
     }

@@ -111,6 +111,11 @@ private slots:
         QTest::ignoreMessage(QtDebugMsg, "EffectPictureWidget::setContentFontSize: invalid font size 0");
         w.setContentFontSize(0);
         QCOMPARE(w.contentFontSize(), 20);
+        // A size whose preview frames could not be allocated is refused as well.
+        QTest::ignoreMessage(QtDebugMsg, "EffectPictureWidget::setContentFontSize: invalid font size 100000");
+        w.setContentFontSize(100000);
+        QCOMPARE(w.contentFontSize(), 20);
+        QCOMPARE(w.previewLabel()->size(), QSize(80, 50));
     }
 
     void nineColumnsThenANewRow()

@@ -13,6 +13,7 @@
 #include <QTemporaryDir>
 #include <QVBoxLayout>
 #include <QtTest>
+#include <climits>
 #include <cmath>
 #include <limits>
 
@@ -435,6 +436,10 @@ void TestLayers::previewRowChoosesLayer()
     QCOMPARE(p.row->preview()->size(), QSize(160, 90));
     QTest::ignoreMessage(QtWarningMsg, "[TypePreviewWidget] invalid preview height: 20");
     p.row->setPreviewHeight(20);
+    QCOMPARE(p.row->preview()->size(), QSize(160, 90));
+    // The title's share is taken away in 64 bits: the lowest int is refused, not wrapped.
+    QTest::ignoreMessage(QtWarningMsg, "[TypePreviewWidget] invalid preview height: -2147483648");
+    p.row->setPreviewHeight(INT_MIN);
     QCOMPARE(p.row->preview()->size(), QSize(160, 90));
 }
 

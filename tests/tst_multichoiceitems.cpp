@@ -7,10 +7,12 @@
 #include "knob.h"
 
 #include <QAbstractButton>
+#include <QLayout>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QToolButton>
 #include <QtTest>
+#include <climits>
 #include <memory>
 
 using namespace LCD::Widget;
@@ -222,6 +224,61 @@ private slots:
         Knob::back(row);
         QCOMPARE(closed.size(), 1);
         QCOMPARE(QApplication::focusWidget(), host.get());
+    }
+
+    // A size the row's control refuses never reaches the row base (whose title style
+    // sheet would pass it on to QFont).
+    void refusedFontSizesStayWithTheRow()
+    {
+        TypeItemMultiBtn buttons;
+        buttons.setContentFontSize(20);
+        QTest::ignoreMessage(QtDebugMsg, "MultiBtnControl::setContentFontSize: invalid font size 0");
+        buttons.setContentFontSize(0);
+        QCOMPARE(buttons.contentFontSize(), 20);
+
+        TypeItemMultiCheckBox boxes;
+        boxes.setContentFontSize(20);
+        QTest::ignoreMessage(QtDebugMsg, "MultiCheckBoxControl::setFontSize: invalid font size -5");
+        boxes.setContentFontSize(-5);
+        QCOMPARE(boxes.contentFontSize(), 20);
+
+        TypeItemMultiOperBtn pad(2);
+        pad.setContentFontSize(20);
+        QTest::ignoreMessage(QtDebugMsg, "MultiBtnWidget::setFontSize: invalid font size 0");
+        pad.setContentFontSize(0);
+        QCOMPARE(pad.contentFontSize(), 20);
+
+        TypeMultipleSelectBtn select(0, {{QStringLiteral("A"), QIcon(), 1}});
+        select.setContentFontSize(20);
+        QTest::ignoreMessage(QtDebugMsg, "Invalid button size: 100000");
+        select.setContentFontSize(100000);
+        QCOMPARE(select.contentFontSize(), 20);
+
+        TypeItemMultiSwitch switches;
+        switches.setContentFontSize(20);
+        QTest::ignoreMessage(QtDebugMsg, "MultiSwitchWidget::setContentFontSize: invalid font size 0");
+        switches.setContentFontSize(0);
+        QCOMPARE(switches.contentFontSize(), 20);
+
+        TypeItemEffectPicture effects;
+        effects.setContentFontSize(20);
+        QTest::ignoreMessage(QtDebugMsg, "EffectPictureWidget::setContentFontSize: invalid font size 0");
+        effects.setContentFontSize(0);
+        QCOMPARE(effects.contentFontSize(), 20);
+    }
+
+    // A spacing past any panel would overflow the layout's sums (and hang it).
+    void hugeSpacingIsRefused()
+    {
+        auto host = std::make_unique<QWidget>();
+        auto* row = new MultiBtnControl(host.get());
+        row->setBtnData(QVector<QPair<QString, int>>{{"A", 0}, {"B", 1}, {"C", 2}});
+        row->setSpacing(6);
+        QTest::ignoreMessage(QtDebugMsg, "MultiWidgetControl::setSpacing: invalid spacing 2147483647");
+        row->setSpacing(INT_MAX);
+        QCOMPARE(row->layout()->spacing(), 6);
+        host->show();
+        QVERIFY(QTest::qWaitForWindowExposed(host.get()));
     }
 };
 

@@ -8,10 +8,12 @@
 
 #include <QAbstractButton>
 #include <QCheckBox>
+#include <QLabel>
 #include <QPointer>
 #include <QSignalSpy>
 #include <QToolButton>
 #include <QtTest>
+#include <cmath>
 #include <memory>
 
 using namespace LCD::Widget;
@@ -260,6 +262,11 @@ private slots:
         QCOMPARE(c.getCurrentText(), QStringLiteral("Cyan"));
         c.setContentFontSize(16);
         QVERIFY(c.widgetList().at(0).second->styleSheet().startsWith(QStringLiteral("QToolButton{font-size:16px;")));
+        // An icon placed at no number, or at a place an int cannot hold, stays in reach.
+        c.addBtnData(QIcon(px), QPointF(std::nan(""), 1e300), QStringLiteral("Far"), 3);
+        QLabel const* icon = c.widgetList().at(2).second->findChild<QLabel*>();
+        QVERIFY(icon);
+        QCOMPARE(icon->pos(), QPoint(0, QWIDGETSIZE_MAX));
     }
 
     void removingButtons()

@@ -16,6 +16,7 @@
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTextEdit>
+#include <QTimer>
 #include <QtTest>
 
 using namespace LCD::Widget;
@@ -139,9 +140,22 @@ void TestReminderDialog::badInputIsLoggedAndRefused()
     dialog.setDialogSize(QSize(-1, 10));
     QCOMPARE(dialog.size(), QSize(550, 288));
 
-    // A huge rectangle is sized in 64 bits and stays within what a widget accepts.
+    // A rectangle larger than any screen (a window sized from it could not be
+    // painted) is refused like an empty one.
+    QTest::ignoreMessage(QtWarningMsg, "[ReminderDialog] host rectangle is larger than any screen, using 800x480");
     ReminderDialog huge(ReminderDialog::Information, QRect(0, 0, INT_MAX, INT_MAX));
-    QVERIFY(huge.getReminderDialogWidth() > 0 && huge.getReminderDialogWidth() <= QWIDGETSIZE_MAX);
+    QCOMPARE(huge.getReminderDialogWidth(), 550);
+
+    // Sizes the host sets stop at the host rectangle, and a second run of a running
+    // dialog is refused instead of reaching Qt.
+    dialog.setDialogSize(QSize(100000, 100000));
+    QCOMPARE(dialog.size(), QSize(800, 480));
+    QTimer::singleShot(0, &dialog, [&dialog] {
+        QTest::ignoreMessage(QtWarningMsg, "[ReminderDialog] exec: already running, refused");
+        QCOMPARE(dialog.exec(), int(QDialog::Rejected));
+        dialog.done(QDialog::Accepted);
+    });
+    QCOMPARE(dialog.exec(), int(QDialog::Accepted));
 }
 
 void TestReminderDialog::helpersReturnTheRoleOfTheClosingButton_data()

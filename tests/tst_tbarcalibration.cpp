@@ -12,6 +12,7 @@
 #include <QSignalSpy>
 #include <QVBoxLayout>
 #include <QtTest>
+#include <climits>
 #include <map>
 #include <string>
 
@@ -178,8 +179,13 @@ void TestTBarCalibration::labelsAndFonts()
     QCOMPARE(page.row->stepLabel(0), nullptr);
     QCOMPARE(page.row->stepLabel(7), nullptr);
     QCOMPARE(page.row->getWidgetRow(), 8);
-    page.row->setContentFontSize(0); // refused
+    QTest::ignoreMessage(QtWarningMsg, "[TypeItemTBarCalibration] setContentFontSize: size 0 refused");
+    page.row->setContentFontSize(0);
+    // Past any font (the step texts' 9/10 would overflow): refused as well.
+    QTest::ignoreMessage(QtWarningMsg, "[TypeItemTBarCalibration] setContentFontSize: size 2147483647 refused");
+    page.row->setContentFontSize(INT_MAX);
     QCOMPARE(page.row->actionButton()->styleSheet(), QStringLiteral("QPushButton{font-size:20px;}"));
+    QCOMPARE(page.row->contentFontSize(), 20);
     page.row->setContentFontSize(30);
     QCOMPARE(page.row->actionButton()->styleSheet(), QStringLiteral("QPushButton{font-size:30px;}"));
     QCOMPARE(page.row->stepLabel(3)->styleSheet(), QStringLiteral("QLabel{font-size:27px;}"));

@@ -113,6 +113,17 @@ void TestToasts::withoutStartTimerItStays()
     QVERIFY(toast.isVisible());
     toast.slotCloseDialog();
     QVERIFY(!toast.isVisible());
+
+    // Run modally, a second run meanwhile is refused instead of reaching Qt.
+    int second = -1;
+    QTimer::singleShot(0, &toast, [&toast, &second] {
+        QTest::ignoreMessage(QtWarningMsg, "[ReminderToastDialog] exec: already running, refused");
+        second = toast.exec();
+        toast.slotCloseDialog();
+    });
+    toast.exec();
+    QCOMPARE(second, int(QDialog::Rejected));
+    QVERIFY(!toast.isVisible());
 }
 
 void TestToasts::reminderToastBadInput()

@@ -343,6 +343,18 @@ void TestWaitingDialogs::blockDialogBadInputAndLifetime()
     orphan->run();
     QVERIFY(!guard.fired());
     QVERIFY(orphan.isNull());
+
+    // A second run while the first one is under way is refused, not passed to Qt.
+    int second = -1;
+    QTimer::singleShot(0, &dialog, [&dialog, &second] {
+        QTest::ignoreMessage(QtWarningMsg, "[BlockDialog] run: already running, refused");
+        second = dialog.run();
+        dialog.done(QDialog::Accepted);
+    });
+    Modal::Guard again;
+    QCOMPARE(dialog.run(), int(QDialog::Accepted));
+    QCOMPARE(second, int(QDialog::Rejected));
+    QVERIFY(!again.fired());
 }
 
 QTEST_MAIN(TestWaitingDialogs)

@@ -242,7 +242,7 @@ void AboutPage::markCurrent(int index, bool current)
 
 void AboutPage::setContentFontSize(int size)
 {
-    if (size <= 0) {
+    if (size <= 0 || size > 1024) { // no panel font is larger
         qWarning().noquote() << kWho << "setContentFontSize: size" << size << "refused";
         return;
     }

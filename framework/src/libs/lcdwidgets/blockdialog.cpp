@@ -1,5 +1,7 @@
 #include "blockdialog.h"
 
+#include "dialogutil_p.h"
+
 #include <QDebug>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -208,6 +210,9 @@ int BlockDialog::animationStep() const { return d->step; }
 
 int BlockDialog::run()
 {
+    DialogUtil::ExecScope const scope(this, "run");
+    if (scope.refused())
+        return QDialog::Rejected;
     QPointer<BlockDialog> self(this);
     int const result = exec();
     if (self && d->autoDelete)

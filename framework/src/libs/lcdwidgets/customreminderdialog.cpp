@@ -229,6 +229,9 @@ void CustomReminderDialog::relayoutContentArea()
 
 int CustomReminderDialog::exec()
 {
+    DialogUtil::ExecScope const scope(this, "exec");
+    if (scope.refused())
+        return QDialog::Rejected;
     move(DialogUtil::centreOn(d->rect, size()));
     int const N = qMax(1, int(DialogUtil::fontPixels(d->fontSize) * 0.8));
     QString const sheet = DialogUtil::fontSheet("QLabel", N);

@@ -34,7 +34,8 @@ DashBoardLabel::~DashBoardLabel() = default;
 
 void DashBoardLabel::setContentFontSize(int size)
 {
-    if (size < 1) {
+    // Past kMaxFontSize the derived sizes overflow and no dial could show the text.
+    if (size < 1 || size > kMaxFontSize) {
         qWarning() << "[DashBoardLabel] setContentFontSize: size refused:" << size;
         return;
     }

@@ -22,8 +22,9 @@ public:
     explicit DashBoardLabel(QSize size, QWidget* parent = nullptr);
     ~DashBoardLabel() override;
 
-    // Pixel font size of the value; the unit is drawn at 0.6 of it. Sizes below 1
-    // are refused.
+    // Pixel font size of the value; the unit is drawn at 0.6 of it. Sizes below 1 or
+    // above kMaxFontSize are refused.
+    static constexpr int kMaxFontSize = 1024;
     void setContentFontSize(int size);
 
     QString valueText() const;

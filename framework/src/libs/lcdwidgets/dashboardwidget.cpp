@@ -438,7 +438,8 @@ void DashBoardWidget::setDashBoardData(DashBoardData const& data)
 
 void DashBoardWidget::setContentFontSize(int size)
 {
-    if (size < 1) {
+    // Past kMaxFontSize the derived sizes overflow and no dial could show the text.
+    if (size < 1 || size > kMaxFontSize) {
         qWarning() << "[DashBoardWidget] setContentFontSize: size refused:" << size;
         return;
     }

@@ -132,7 +132,8 @@ public:
     void setDashBoardData(DashBoardData const& data);
 
     // The content font size shared by every dial (the value text is drawn at half of
-    // it); every dial repaints.
+    // it); every dial repaints. Sizes below 1 or above kMaxFontSize are refused.
+    static constexpr int kMaxFontSize = 1024;
     static void setContentFontSize(int size);
     static int getContentFontSize();
 

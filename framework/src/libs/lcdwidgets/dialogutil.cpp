@@ -16,6 +16,11 @@ namespace DialogUtil {
 
 QRect hostRect(QRect const& rect, char const* who)
 {
+    if (rect.width() > kMaxHostSide || rect.height() > kMaxHostSide) {
+        // No screen is that large: a window sized from it could not even be painted.
+        qWarning().noquote() << who << "host rectangle is larger than any screen, using 800x480";
+        return QRect(0, 0, kFallbackWidth, kFallbackHeight);
+    }
     if (rect.width() > 0 && rect.height() > 0)
         return rect;
     qWarning().noquote() << who << "host rectangle is empty, using 800x480";
@@ -82,8 +87,32 @@ QFrame* buildFramedWindow(QDialog* dialog, QSize size, QString const& frameName,
     return frame;
 }
 
+namespace {
+char const* const kRunningProperty = "lcdModalRunning";
+}
+
+ExecScope::ExecScope(QDialog* dialog, char const* what) : m_dialog(dialog)
+{
+    if (dialog->property(kRunningProperty).toBool()) {
+        QString const name = QString::fromLatin1(dialog->metaObject()->className()).section(QStringLiteral("::"), -1);
+        qWarning().noquote() << QStringLiteral("[%1] %2: already running, refused").arg(name, QLatin1String(what));
+        m_refused = true;
+        return;
+    }
+    dialog->setProperty(kRunningProperty, true);
+}
+
+ExecScope::~ExecScope()
+{
+    if (!m_refused && m_dialog)
+        m_dialog->setProperty(kRunningProperty, false);
+}
+
 int execModal(QDialog* dialog, std::atomic<int>* executing)
 {
+    ExecScope const scope(dialog, "exec");
+    if (scope.refused())
+        return QDialog::Rejected;
     QPointer<QDialog> self(dialog);
     // The dialog is a window of its own: give the knob back to the window that had
     // it (another box, the host's page) when it closes.

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QPoint>
+#include <QPointer>
 #include <QRect>
 #include <QSize>
 #include <QString>
@@ -20,8 +21,12 @@ namespace DialogUtil {
 constexpr int kFallbackWidth = 800;
 constexpr int kFallbackHeight = 480;
 
-// `rect` when it has a positive width and height; otherwise the warning
-// "<who> host rectangle is empty, using 800x480" and the panel's full screen.
+// The largest side of a host rectangle (a screen): 16K pixels.
+constexpr int kMaxHostSide = 16384;
+
+// `rect` when it has a positive width and height up to kMaxHostSide; otherwise the
+// warning "<who> host rectangle is empty, using 800x480" (or "... is larger than any
+// screen, using 800x480") and the panel's full screen.
 QRect hostRect(QRect const& rect, char const* who);
 
 // v · num / den in 64 bits, clamped to [0, QWIDGETSIZE_MAX] (a size or a spacing).
@@ -48,8 +53,26 @@ QFrame* buildFramedWindow(QDialog* dialog, QSize size, QString const& frameName,
 // `executing` is 1 while it runs and back to 0 after (only if the dialog still
 // exists: a dialog destroyed by its parent meanwhile is left alone), the window that
 // had the knob when it opened gets it back, and "[dialog] exec finish with <result>"
-// is logged.
+// is logged. A second run while one is under way is refused (see ExecScope) and
+// answers QDialog::Rejected.
 int execModal(QDialog* dialog, std::atomic<int>* executing);
+
+// Marks a dialog's modal run for its length. A second run of a dialog whose loop
+// still runs (a host's timer, a key that opens it again) is refused with the warning
+// "[<Class>] <what>: already running, refused" instead of reaching Qt.
+class ExecScope
+{
+public:
+    ExecScope(QDialog* dialog, char const* what);
+    ~ExecScope();
+    ExecScope(ExecScope const&) = delete;
+    ExecScope& operator=(ExecScope const&) = delete;
+    bool refused() const { return m_refused; }
+
+private:
+    QPointer<QDialog> m_dialog;
+    bool m_refused = false;
+};
 
 // Masks `widget` to its rectangle with corners of `radius`.
 void setRoundedMask(QWidget* widget, qreal radius = 6.0);

@@ -149,7 +149,7 @@ bool DrawGraphicsRectItem::isBaseMapHasBoder() const { return d->baseMapBorder; 
 
 void DrawGraphicsRectItem::setContentFontSize(int size)
 {
-    if (size < 1) {
+    if (size < 1 || size > 1024) { // no panel font is larger; the derived sizes would overflow
         qWarning() << "[DrawGraphicsRectItem] setContentFontSize: size refused:" << size;
         return;
     }

@@ -1,6 +1,8 @@
 #include "drawgraphicsscene.h"
 
 #include <QDebug>
+
+#include <cmath>
 #include <QGraphicsView>
 
 namespace LCD {
@@ -53,7 +55,17 @@ DrawGraphicsScene::~DrawGraphicsScene() = default;
 
 void DrawGraphicsScene::initScene() { setSceneRect(kSceneOrigin, kSceneOrigin, kSceneExtent, kSceneExtent); }
 
-void DrawGraphicsScene::setSceneSize(QRectF const& rect) { setSceneRect(rect); }
+void DrawGraphicsScene::setSceneSize(QRectF const& rect)
+{
+    // A view scrolls the scene in int pixels: edges beyond kMaxSceneCoordinate (or not
+    // numbers at all) would overflow its scroll ranges.
+    auto const fits = [](qreal v) { return std::isfinite(v) && std::abs(v) <= kMaxSceneCoordinate; };
+    if (!fits(rect.left()) || !fits(rect.top()) || !fits(rect.right()) || !fits(rect.bottom())) {
+        qWarning() << "[DrawGraphicsScene] setSceneSize: rectangle refused:" << rect;
+        return;
+    }
+    setSceneRect(rect);
+}
 
 DrawGraphicsRectItem* DrawGraphicsScene::addRect(ItemDataInfo const& info)
 {
@@ -94,7 +106,7 @@ void DrawGraphicsScene::setCropRectInfo(CropRectInfoArray const& infos)
 
 void DrawGraphicsScene::setContentFontSize(int size)
 {
-    if (size < 1) {
+    if (size < 1 || size > 1024) { // no panel font is larger; the derived sizes would overflow
         qWarning() << "[DrawGraphicsScene] setContentFontSize: size refused:" << size;
         return;
     }

@@ -21,6 +21,9 @@ public:
 
     // Scene rectangle (-196608, -196608, 393216 × 393216).
     void initScene();
+    // The scene rectangle; one with an edge beyond +-kMaxSceneCoordinate, or not
+    // finite, is refused ("[DrawGraphicsScene] setSceneSize: rectangle refused:").
+    static constexpr qreal kMaxSceneCoordinate = 16777216.0;
     void setSceneSize(QRectF const& rect);
 
     // Replace every rectangle: one per entry, bordered, with its text. An empty array

@@ -182,7 +182,8 @@ void EffectPictureWidget::setCurrentUserData(QVariant data) const
 
 void EffectPictureWidget::setContentFontSize(int size)
 {
-    if (size < 1) {
+    // Beyond kMaxFontSize the preview's frames alone would take gigabytes.
+    if (size < 1 || size > kMaxFontSize) {
         qDebug().noquote().nospace() << "EffectPictureWidget::setContentFontSize: invalid font size " << size;
         return;
     }
@@ -396,8 +397,10 @@ void TypeItemEffectPicture::setCurrentUserData(QVariant data) const { d->chooser
 
 void TypeItemEffectPicture::setContentFontSize(int size)
 {
-    CommonItemType::setContentFontSize(size);
+    // The chooser refuses (and logs) a size it cannot take; the row follows it.
     d->chooser->setContentFontSize(size);
+    if (size >= 1 && size <= EffectPictureWidget::kMaxFontSize)
+        CommonItemType::setContentFontSize(size);
 }
 
 void TypeItemEffectPicture::setContentDisabled(bool disabled) const { d->chooser->setContentDisabled(disabled); }

@@ -54,7 +54,8 @@ public:
     int getCurrentValue() const;
     // Stores `data` as the user data of the button whose key it names.
     void setCurrentUserData(QVariant data) const;
-    // Sizes for the font size n (n < 1 is refused).
+    // Sizes for the font size n (n < 1 or n > kMaxFontSize is refused).
+    static constexpr int kMaxFontSize = 512;
     void setContentFontSize(int size);
     int contentFontSize() const;
     void setContentDisabled(bool disabled) const;

@@ -100,7 +100,13 @@ IPLineEdit::IPLineEdit(QWidget* parent) : QLineEdit(parent), m_parent(parent)
         connect(qApp, &QApplication::focusChanged, this, &IPLineEdit::slotFocusChanged);
 }
 
-IPLineEdit::~IPLineEdit() = default;
+IPLineEdit::~IPLineEdit()
+{
+    // The focus leaves the fields while the QWidget part is taken down: the slot must
+    // not run on the half-destroyed editor.
+    if (qApp)
+        disconnect(qApp, &QApplication::focusChanged, this, nullptr);
+}
 
 QString IPLineEdit::Iptext() const
 {

@@ -207,7 +207,9 @@ void MiniProcessDialog::setDialogSize(QSize size)
         qWarning().noquote() << kWho << "setDialogSize: negative size refused" << size;
         return;
     }
-    setFixedSize(size.boundedTo(QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX)));
+    // No dialog is larger than the host's screen (nor could one be painted).
+    QScreen const* screen = QGuiApplication::primaryScreen();
+    setFixedSize(size.boundedTo(screen ? d->rect.size().expandedTo(screen->size()) : d->rect.size()));
 }
 
 void MiniProcessDialog::setDialogShowTimer(int const& ms)

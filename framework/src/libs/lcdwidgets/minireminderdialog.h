@@ -63,6 +63,7 @@ public:
     void setProgressValue(int value);
     void setProgressText(QString const& text);
     void setProgressFocus();
+    // A negative size is refused; one beyond the host rectangle (or the screen) is cut to it.
     void setDialogSize(QSize size);
     void setDialogShowTimer(int const& ms);
     // The band has no line: kept for the interface.

@@ -4,6 +4,8 @@
 #include "stylehelper.h"
 
 #include <QDebug>
+
+#include <cmath>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPointer>
@@ -40,6 +42,16 @@ QString shownText(QString const& text)
 }
 
 int clampedSize(qint64 v) { return static_cast<int>(qBound<qint64>(0, v, QWIDGETSIZE_MAX)); }
+
+// Where an icon goes inside its button: a coordinate that is no number counts as 0,
+// the others stay within what a widget takes (rounding them could overflow an int).
+QPoint iconPlace(QPointF pos)
+{
+    auto const place = [](qreal v) {
+        return std::isfinite(v) ? qRound(qBound<qreal>(-QWIDGETSIZE_MAX, v, QWIDGETSIZE_MAX)) : 0;
+    };
+    return QPoint(place(pos.x()), place(pos.y()));
+}
 
 } // namespace
 
@@ -98,7 +110,7 @@ void MultiBtnControl::addBtnData(QIcon const& icon, QPointF iconPos, QString con
     QSize const side = button->iconSize();
     iconLabel->setPixmap(icon.pixmap(side));
     iconLabel->setFixedSize(side);
-    iconLabel->move(iconPos.toPoint());
+    iconLabel->move(iconPlace(iconPos));
     button->adjustSize();
     insertButton(count(), e_PushButton, button, data);
 }

@@ -35,7 +35,8 @@ public:
     void addBtnData(QString const& text, QVariant const& data);
     // A button with an icon and text.
     void addBtnData(QIcon const& icon, QString const& text, QVariant const& data);
-    // The same, with the icon drawn at `iconPos` inside the button.
+    // The same, with the icon drawn at `iconPos` inside the button (a coordinate that is
+    // not a number counts as 0).
     void addBtnData(QIcon const& icon, QPointF iconPos, QString const& text, QVariant const& data);
     // The same, inserted at `index` (clamped to 0..count()).
     void insertBtnData(int index, QString const& text, QVariant const& data);

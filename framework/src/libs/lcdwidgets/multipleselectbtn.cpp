@@ -1,5 +1,7 @@
 #include "multipleselectbtn.h"
 
+#include "dialogutil_p.h"
+
 #include <QApplication>
 #include <QDebug>
 #include <QFontMetrics>
@@ -54,7 +56,13 @@ MultipleSelectBtn::MultipleSelectBtn(int index, int spacing, std::vector<ItemSel
     build(infos, style, qMax(0, spacing));
 }
 
-MultipleSelectBtn::~MultipleSelectBtn() = default;
+MultipleSelectBtn::~MultipleSelectBtn()
+{
+    // The focus leaves this row while its QWidget part is taken down: the slot must not
+    // run on the half-destroyed row.
+    if (qApp)
+        disconnect(qApp, &QApplication::focusChanged, this, nullptr);
+}
 
 void MultipleSelectBtn::build(std::vector<ItemSelectInfo> const& infos, Qt::ToolButtonStyle style, int spacing)
 {
@@ -97,7 +105,9 @@ void MultipleSelectBtn::setBtnText(int index, QString text)
 
 void MultipleSelectBtn::setBtnSize(int n)
 {
-    if (n < 1) {
+    // Below 3 the buttons would have no height (the style takes 0 for "unset"); far
+    // beyond any panel's fonts the sizes overflow.
+    if (n < kMinButtonSize || n > kMaxButtonSize) {
         qDebug() << "Invalid button size:" << n;
         return;
     }
@@ -256,6 +266,9 @@ MultipleSelectBtn* MultipleDialog::selectBtn() const { return d->group; }
 
 int MultipleDialog::exec()
 {
+    DialogUtil::ExecScope const scope(this, "exec");
+    if (scope.refused())
+        return QDialog::Rejected;
     int const result = QDialog::exec();
     qDebug().noquote().nospace() << "[dialog] exec finish with " << result;
     return result;

@@ -51,7 +51,10 @@ public:
     void setBtnText(int index, QString text);
     // Sizes the buttons for n: font 0.8 n, height (n / 3) * 4, focus frame n / 16; icon
     // buttons are square, buttons showing their text beside the icon (or alone) as wide
-    // as the text needs. n < 1 is refused ("Invalid button size:").
+    // as the text needs. n below kMinButtonSize or above kMaxButtonSize is
+    // refused ("Invalid button size:").
+    static constexpr int kMinButtonSize = 3;
+    static constexpr int kMaxButtonSize = 1024;
     void setBtnSize(int n);
     // Position of `button`; -1 when it is not one of this row's.
     int getIndex(QToolButton* button) const;

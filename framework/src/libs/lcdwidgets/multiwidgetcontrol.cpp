@@ -35,7 +35,8 @@ void MultiWidgetControl::initControl()
 
 void MultiWidgetControl::setSpacing(int spacing)
 {
-    if (spacing < 0) {
+    // A spacing wider than any panel would overflow the layout's sums of the row.
+    if (spacing < 0 || spacing > kMaxSpacing) {
         qDebug().noquote().nospace() << "MultiWidgetControl::setSpacing: invalid spacing " << spacing;
         return;
     }

@@ -43,7 +43,9 @@ public:
 
     // Lays the row out: margins 0, spacing 0 (only resets them once the layout exists).
     void initControl();
-    // Spacing between the children; a negative spacing is refused.
+    // Spacing between the children; a negative spacing, or one above kMaxSpacing
+    // pixels, is refused.
+    static constexpr int kMaxSpacing = 4096;
     void setSpacing(int spacing);
     // A stretch at the end of the row.
     void addStretch();

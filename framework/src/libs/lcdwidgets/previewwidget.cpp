@@ -173,7 +173,7 @@ void PreviewWidget::setDrawViewHeight(int h)
 
 void PreviewWidget::setContentFontSize(int size)
 {
-    if (size < 1) {
+    if (size < 1 || size > 1024) { // no panel font is larger; the derived sizes would overflow
         qWarning() << "Invalid font size:" << size;
         return;
     }

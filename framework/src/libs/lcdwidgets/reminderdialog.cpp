@@ -358,7 +358,8 @@ void ReminderDialog::setDialogSize(QSize size)
         qWarning().noquote() << kWho << "setDialogSize: negative size refused" << size;
         return;
     }
-    size = size.boundedTo(QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
+    // No dialog is larger than the host's screen (nor could one be painted).
+    size = size.boundedTo(d->rect.size());
     d->width = size.width();
     d->height = size.height();
     setFixedSize(size);

@@ -98,7 +98,8 @@ public:
     void setProgressValue(int value);
     void setProgressText(QString const& text);
     void setProgressFocus();
-    // Fixes the dialog (and its frame) to `size`, the text to 4/5 of its width.
+    // Fixes the dialog (and its frame) to `size`, the text to 4/5 of its width. A
+    // negative size is refused; one beyond the host rectangle is cut to it.
     void setDialogSize(QSize size);
     // Hides the progress bar and the buttons and closes the dialog after `ms`
     // (negative values count as 0).

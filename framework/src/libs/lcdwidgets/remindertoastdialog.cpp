@@ -177,13 +177,22 @@ void ReminderToastDialog::setBStartTimer(bool start)
         d->frameLayout->removeItem(d->spacer);
 }
 
+int ReminderToastDialog::exec()
+{
+    DialogUtil::ExecScope const scope(this, "exec");
+    if (scope.refused())
+        return QDialog::Rejected;
+    return QDialog::exec();
+}
+
 void ReminderToastDialog::setDialogSize(QSize size)
 {
     if (size.width() < 0 || size.height() < 0) {
         qWarning().noquote() << kWho << "setDialogSize: negative size refused" << size;
         return;
     }
-    size = size.boundedTo(QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
+    // No dialog is larger than the host's screen (nor could one be painted).
+    size = size.boundedTo(d->rect.size());
     setFixedSize(size);
     d->frame->setFixedSize(size);
     d->text->setFixedWidth(size.width() * 4 / 5);

@@ -41,10 +41,15 @@ public:
     void setDialgIcon(LCD::Widget::Enum::DialogType type);
     // Whether showing starts the close timer; a toast without it stays until closed.
     void setBStartTimer(bool start);
+    // A negative size is refused; one beyond the host rectangle is cut to it.
     void setDialogSize(QSize size);
     int getReminderToastDialogWidth() const;
     int getReminderToastDialogHeight() const;
     float getFontSize() const;
+
+    // Runs the toast modally; a second run while one is under way is refused
+    // ("[ReminderToastDialog] exec: already running, refused") and answers Rejected.
+    int exec() override;
 
 public slots:
     void slotCloseDialog();

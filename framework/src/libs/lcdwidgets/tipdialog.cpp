@@ -1,5 +1,7 @@
 #include "tipdialog.h"
 
+#include "dialogutil_p.h"
+
 #include "lcdtranslate.h"
 
 #include <QDebug>
@@ -142,6 +144,9 @@ QPushButton* TipDialog::okButton() const { return d->ok; }
 
 bool TipDialog::run()
 {
+    DialogUtil::ExecScope const scope(this, "run");
+    if (scope.refused())
+        return false;
     QPointer<TipDialog> self(this);
     QDialog::exec();
     if (!self)

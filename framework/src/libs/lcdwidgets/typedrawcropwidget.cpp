@@ -50,7 +50,7 @@ void TypeDrawCropWidget::setCropViewHeight(int h)
 
 void TypeDrawCropWidget::setContentFontSize(int size)
 {
-    if (size < 1) {
+    if (size < 1 || size > 1024) { // no panel font is larger; the derived sizes would overflow
         qWarning() << "[TypeDrawCropWidget] setContentFontSize: size refused:" << size;
         return;
     }

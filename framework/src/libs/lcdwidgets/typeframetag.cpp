@@ -120,7 +120,7 @@ void TypeFrameTag::setContentDisabled(bool disabled) const { d->tag->setDisabled
 
 void TypeFrameTag::setContentFontSize(int size)
 {
-    if (size < 1) {
+    if (size < 1 || size > 1024) { // no panel font is larger; the derived sizes would overflow
         qWarning() << "Invalid font size:" << size;
         return;
     }

@@ -199,7 +199,7 @@ void TypeItemDashBoard::setCurrentSelected(DashBoardWidget* dial)
 
 void TypeItemDashBoard::setContentFontSize(int size)
 {
-    if (size < 1) {
+    if (size < 1 || size > DashBoardWidget::kMaxFontSize) {
         qWarning() << "[TypeItemDashBoard] setContentFontSize: size refused:" << size;
         return;
     }

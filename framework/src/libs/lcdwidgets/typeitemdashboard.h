@@ -43,6 +43,7 @@ public:
     void setItemSize(QSize size);
     // That dial selected, every other one not; null or a foreign dial is refused.
     void setCurrentSelected(DashBoardWidget* dial);
+    // Sizes below 1 or above DashBoardWidget::kMaxFontSize are refused.
     void setContentFontSize(int size) override;
     int getWidgetRow() override;
     void editValue() override;

@@ -112,8 +112,10 @@ void TypeItemMultiBtn::setContentDisabled(bool disabled) const { d->control->set
 
 void TypeItemMultiBtn::setContentFontSize(int size)
 {
-    CommonItemType::setContentFontSize(size);
+    // The buttons refuse (and log) a size below 1; the row follows them.
     d->control->setContentFontSize(size);
+    if (size >= 1)
+        CommonItemType::setContentFontSize(size);
 }
 
 void TypeItemMultiBtn::editValue()

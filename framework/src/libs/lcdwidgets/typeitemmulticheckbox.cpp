@@ -47,8 +47,10 @@ void TypeItemMultiCheckBox::setRightIconSize(QSize size) { d->control->setIconSi
 
 void TypeItemMultiCheckBox::setContentFontSize(int size)
 {
-    CommonItemType::setContentFontSize(size);
+    // The boxes refuse (and log) a size below 1; the row follows them.
     d->control->setFontSize(size);
+    if (size >= 1)
+        CommonItemType::setContentFontSize(size);
 }
 
 void TypeItemMultiCheckBox::setContentDisabled(bool disabled) const { d->control->setContentDisabled(disabled); }

@@ -37,8 +37,10 @@ void TypeItemMultiOperBtn::setBtnDefaultStyle(QString name) { d->pad->setBtnDefa
 
 void TypeItemMultiOperBtn::setContentFontSize(int size)
 {
-    CommonItemType::setContentFontSize(size);
+    // The pad refuses (and logs) a size below 1; the row follows it.
     d->pad->setFontSize(size);
+    if (size >= 1)
+        CommonItemType::setContentFontSize(size);
 }
 
 void TypeItemMultiOperBtn::setContentDisabled(bool disabled) const

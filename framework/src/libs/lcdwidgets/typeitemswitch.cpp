@@ -149,8 +149,10 @@ void TypeItemMultiSwitch::setRightIconSize(QSize size) { d->widget->setSwitchSiz
 
 void TypeItemMultiSwitch::setContentFontSize(int size)
 {
-    CommonItemType::setContentFontSize(size);
+    // The switches refuse (and log) a size below 1; the row follows them.
     d->widget->setContentFontSize(size);
+    if (size >= 1)
+        CommonItemType::setContentFontSize(size);
 }
 
 MultiSwitchWidget* TypeItemMultiSwitch::multiSwitchWidget() const { return d->widget; }

@@ -144,8 +144,10 @@ void TypeItemTBarCalibration::setContentDisabled(bool disabled) const
 
 void TypeItemTBarCalibration::setContentFontSize(int size)
 {
-    if (size < 1)
+    if (size < 1 || size > kMaxFontSize) {
+        qWarning().noquote() << "[TypeItemTBarCalibration] setContentFontSize: size" << size << "refused";
         return;
+    }
     CommonItemType::setContentFontSize(size);
     // Step texts a little smaller than the header and the button.
     int const small = qMax(1, size * 9 / 10);

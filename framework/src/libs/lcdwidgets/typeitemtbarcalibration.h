@@ -36,6 +36,9 @@ public:
     void editValue() override;
     void setContentDisabled(bool disabled) const override;
     // Font sizes of the labels and the button (ignored below 1).
+    // Sizes below 1 or above kMaxFontSize are refused
+    // ("[TypeItemTBarCalibration] setContentFontSize: size N refused").
+    static constexpr int kMaxFontSize = 1024;
     void setContentFontSize(int size) override;
     void retranslateUi();
 

@@ -50,8 +50,10 @@ void TypeMultipleSelectBtn::setBtnText(int index, QString text) { d->group->setB
 
 void TypeMultipleSelectBtn::setContentFontSize(int size)
 {
-    CommonItemType::setContentFontSize(size);
+    // The buttons refuse (and log) a size they cannot take; the row follows them.
     d->group->setBtnSize(size);
+    if (size >= MultipleSelectBtn::kMinButtonSize && size <= MultipleSelectBtn::kMaxButtonSize)
+        CommonItemType::setContentFontSize(size);
 }
 
 void TypeMultipleSelectBtn::setContentDisabled(bool disabled) const

@@ -37,12 +37,12 @@ PreviewWidget* TypePreviewWidget::preview() const { return d->preview; }
 
 void TypePreviewWidget::setPreviewHeight(int h)
 {
-    int const view = h - contentFontSize();
+    qint64 const view = qint64(h) - contentFontSize(); // h may be INT_MIN
     if (view < 1) {
         qWarning() << "[TypePreviewWidget] invalid preview height:" << h;
         return;
     }
-    d->preview->setDrawViewHeight(view);
+    d->preview->setDrawViewHeight(int(view));
 }
 
 void TypePreviewWidget::setLabelValue(QVariant value, int)
@@ -85,7 +85,7 @@ void TypePreviewWidget::setContentDisabled(bool disabled) const { d->preview->se
 
 void TypePreviewWidget::setContentFontSize(int size)
 {
-    if (size < 1) {
+    if (size < 1 || size > 1024) { // no panel font is larger; the derived sizes would overflow
         qWarning() << "Invalid font size:" << size;
         return;
     }

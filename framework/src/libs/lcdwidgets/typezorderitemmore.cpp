@@ -122,7 +122,7 @@ void TypeZOrderItemMore::setContentDisabled(bool disabled) const
 
 void TypeZOrderItemMore::setContentFontSize(int size)
 {
-    if (size < 1) {
+    if (size < 1 || size > 1024) { // no panel font is larger; the derived sizes would overflow
         qWarning() << "Invalid font size:" << size;
         return;
     }
