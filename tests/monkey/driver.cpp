@@ -6,6 +6,8 @@
 #include <lcd/ihomeframe.h>
 
 #include <QApplication>
+#include <QDialog>
+#include <QThread>
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QKeyEvent>
@@ -166,7 +168,8 @@ void messageHandler(QtMsgType type, QMessageLogContext const& context, QString c
     }
 }
 
-// ---- The watchdog: one action taking longer than the limit is a hang ----
+// ---- The watchdog: no tick for longer than the limit is a hang (an action that
+// never returns, or a nested loop nothing ends) ----
 
 void startWatchdog(int seconds)
 {
@@ -176,13 +179,13 @@ void startWatchdog(int seconds)
         for (;;) {
             std::this_thread::sleep_for(std::chrono::milliseconds(250));
             unsigned long const now = g_heartbeat.load();
-            if (now != last || !g_busy.load()) {
+            if (now != last) {
                 last = now;
                 since = std::chrono::steady_clock::now();
                 continue;
             }
             if (std::chrono::steady_clock::now() - since > std::chrono::seconds(seconds)) {
-                writeOut("\nmonkey: HANG (one action ran longer than the watchdog's limit)\n");
+                writeOut("\nmonkey: HANG (no progress for longer than the watchdog's limit)\n");
                 printRing();
                 if (g_messages.abortOnFailure)
                     std::abort();   // a debugger's "thread apply all bt" shows where the loop is
@@ -423,6 +426,22 @@ private:
             modal->hide();   // ends its exec(); the dialog's owner deletes it
             return;
         }
+        if (QThread::currentThread()->loopLevel() > m_baseLevel) {
+            // A loop is still running without a modal window: a dialog hidden while its
+            // exec() ran (hiding it again does nothing), or one that is not modal any more.
+            // Show and hide every dialog to end them.
+            for (QWidget* w : QApplication::topLevelWidgets()) {
+                auto* dialog = qobject_cast<QDialog*>(w);
+                if (!dialog)
+                    continue;
+                log(QStringLiteral("end dialog %1%2").arg(QString::fromLatin1(w->metaObject()->className()),
+                                                         dialog->isVisible() ? QString() : QStringLiteral(" (hidden)")));
+                if (!dialog->isVisible())
+                    dialog->show();
+                dialog->hide();
+            }
+            return;
+        }
         if (m_depth == 1) {
             m_ended = true;
             m_loop.quit();
@@ -443,6 +462,8 @@ private:
             return;
         }
         m_pausedUntil.invalidate();
+        if (m_baseLevel < 0)
+            m_baseLevel = QThread::currentThread()->loopLevel();   // the first tick runs in the driver's own loop
         schedule(0);
         ++m_ticks;
         ++m_depth;
@@ -543,6 +564,7 @@ private:
     int m_pauseMs = 0;
     QObject m_context;
     QEventLoop m_loop;
+    int m_baseLevel = -1;
     QPointer<Page> m_page;
     QPointer<QWidget> m_widget;
 };

@@ -171,7 +171,8 @@ void addRowActions(std::vector<Action>& actions, int own = OwnNone)
 // What every row may log for hostile input of the common setters.
 inline QStringList rowWarnings()
 {
-    return {QStringLiteral("^\\[item\\] .* : no editor to edit with$")};
+    // The row base refuses sizes Qt cannot take with its own messages.
+    return {QStringLiteral("^\\[item\\] .* : no editor to edit with$"), QStringLiteral("^\\[(CommonItemType|RollLabel)\\] .* refused$")};
 }
 
 // What a dialog may log: its exec result, an empty host rectangle, a parent that
