@@ -465,6 +465,14 @@ void TestReminderDialog::reminderDialogApply()
     QCOMPARE(clicked.count(), 1);
     QTest::ignoreMessage(QtWarningMsg, "[ReminderDialogApply] cannot load icon /nonexistent.png");
     dialog.setIconPath(QStringLiteral("/nonexistent.png"));
+
+    // A second run while the first is under way is refused instead of reaching Qt.
+    QTimer::singleShot(0, &dialog, [&dialog] {
+        QTest::ignoreMessage(QtWarningMsg, "[ReminderDialogApply] exec: already running, refused");
+        QCOMPARE(dialog.exec(), int(QDialog::Rejected));
+        dialog.done(QDialog::Accepted);
+    });
+    QCOMPARE(dialog.exec(), int(QDialog::Accepted));
 }
 
 void TestReminderDialog::buttonsTranslatedAgainByRole()

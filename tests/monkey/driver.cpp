@@ -121,6 +121,7 @@ QStringList const kGlobalAllowed = {
 QStringList const kPlatformNoise = {
     QStringLiteral("^This plugin does not support propagateSizeHints"),
     QStringLiteral("^This plugin does not support raise"),
+    QStringLiteral("^This plugin does not support setting window masks"),
     QStringLiteral("^This plugin does not support grabbing the keyboard"),
     QStringLiteral("^QFontDatabase: Cannot find font directory"),
 };

@@ -171,7 +171,7 @@ ClassEntry reminderDialogApply()
             execLater(w);
         }),
     };
-    e.allowedWarnings = QStringList{"^\\[ReminderDialogApply\\] cannot load icon"};
+    e.allowedWarnings = QStringList{"^\\[ReminderDialogApply\\] cannot load icon", "^\\[ReminderDialogApply\\] exec: already running, refused$"};
     return e;
 }
 

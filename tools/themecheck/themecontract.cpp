@@ -29,10 +29,10 @@ namespace ThemeContract {
 namespace {
 
 // Properties that keep a value for code (the host's data, a button's role or value,
-// a shown flag), set without a re-polish: they style nothing, and their values are
+// a shown flag, a dialog's modal run), set without a re-polish: they style nothing, and their values are
 // the host's.
 QSet<QByteArray> const kDataProperties = {"MarkValue", "MyButtonRole", "WindowStateShow", "captionText",
-                                          "multiBtnText", "userData"};
+                                          "multiBtnText", "userData", "lcdModalRunning"};
 
 bool skippedProperty(QByteArray const& name)
 {

@@ -537,6 +537,14 @@ struct __attribute__((visibility("hidden"))) ReminderDialogApply::Impl
     QString iconPath;
 };
 
+int ReminderDialogApply::exec()
+{
+    DialogUtil::ExecScope const scope(this, "exec");
+    if (scope.refused())
+        return QDialog::Rejected;
+    return QDialog::exec();
+}
+
 ReminderDialogApply::ReminderDialogApply(QWidget* parent) : QDialog(parent), d(new Impl)
 {
     setFixedSize(800, 480);

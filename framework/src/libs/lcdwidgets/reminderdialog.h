@@ -157,6 +157,9 @@ public:
     // The icon's image file, shown 160×160 (none by default).
     void setIconPath(QString const& path);
     QPushButton* applyButton() const;
+    // Runs the dialog modally; a second run while one is under way is refused with
+    // "[ReminderDialogApply] exec: already running, refused" and answers Rejected.
+    int exec() override;
 
 signals:
     void signalPushBtnClicked();
