@@ -90,7 +90,7 @@ void SwitchControl::setThumbColor(QColor color)
 void SwitchControl::setSwitchSize(QSize size)
 {
     // 2 x height must stay a valid widget width.
-    if (size.height() < 1 || size.height() > QWIDGETSIZE_MAX / 2 || size.width() < 0) {
+    if (size.height() < 1 || size.height() > QWIDGETSIZE_MAX / 2 || size.width() < 0 || size.width() > QWIDGETSIZE_MAX) {
         qDebug().noquote().nospace() << "SwitchControl::setSwitchSize: invalid size " << size.width() << "x"
                                      << size.height();
         return;
@@ -165,7 +165,7 @@ void SwitchControl::paintEvent(QPaintEvent*)
             thumb = d->disabledOffThumb;
         }
     }
-    double const X = on ? W - 2 * (H / 2) + kMargin + 2 : kMargin + H / 4;
+    double const X = on ? double(W) - 2 * (H / 2) + kMargin + 2 : kMargin + H / 4;
     // A slide moves the coordinate on its own; painting always shows the end position.
     if (!d->timer.isActive())
         d->thumbX = X;
