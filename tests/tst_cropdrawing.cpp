@@ -179,6 +179,9 @@ private slots:
         QVERIFY(item.mapToScene(item.boundingRect()).boundingRect().contains(QRectF(10, 20, 300, 200)));
         item.setItemSize(QSizeF(-5, std::nan("")));
         QCOMPARE(item.getItemSize(), QSizeF(0, 0));
+        // Extents no view could scroll stop at the largest scene coordinate.
+        item.setItemSize(QSizeF(1e300, 3e9));
+        QCOMPARE(item.getItemSize(), QSizeF(DrawGraphicsScene::kMaxSceneCoordinate, DrawGraphicsScene::kMaxSceneCoordinate));
         QTest::ignoreMessage(QtWarningMsg, "[DrawGraphicsRectItem] setContentFontSize: size refused: 0");
         item.setContentFontSize(0);
         QCOMPARE(item.contentFontSize(), 40);

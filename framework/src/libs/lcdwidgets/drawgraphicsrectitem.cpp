@@ -1,4 +1,7 @@
 #include "drawgraphicsrectitem.h"
+#include "drawgraphicsscene.h"
+
+#include <algorithm>
 
 #include <QDebug>
 #include <QFontMetricsF>
@@ -21,7 +24,12 @@ constexpr qreal kCropFrameWidth = 2.0;
 // Texts smaller than this on the screen are not drawn.
 constexpr qreal kSmallestText = 6.0;
 
-qreal extent(qreal v) { return std::isfinite(v) && v > 0 ? v : 0.0; }
+// A view scrolls in int pixels: an extent beyond the largest scene coordinate would
+// overflow the scroll bars of the view showing the item.
+qreal extent(qreal v)
+{
+    return std::isfinite(v) && v > 0 ? std::min(v, DrawGraphicsScene::kMaxSceneCoordinate) : 0.0;
+}
 
 } // namespace
 

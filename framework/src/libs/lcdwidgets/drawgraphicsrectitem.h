@@ -25,7 +25,8 @@ public:
     QRectF boundingRect() const override;
     void paint(QPainter* painter, QStyleOptionGraphicsItem const* option, QWidget* widget) override;
 
-    // Negative or NaN extents count as 0.
+    // Negative or NaN extents count as 0; larger ones than
+    // DrawGraphicsScene::kMaxSceneCoordinate count as that (a view could not scroll them).
     void setItemSize(QSizeF size);
     QSizeF getItemSize() const;
     void setRectText(QString text);
