@@ -223,6 +223,15 @@ void CommonItemType::ensureSecondTitle() const
     d->titleColumn->addWidget(d->secondTitleLabel);
 }
 
+void CommonItemType::setTitleWidth(int width)
+{
+    d->titleLabel->setWidth(width);
+    // The title sits two layouts down: a host that asks for the row's size hint
+    // right away (to fit it to its page) must see the new width, not a cached one.
+    d->titleColumn->invalidate();
+    d->rowLayout->invalidate();
+}
+
 // ---------------------------------------------------------------------------
 // Virtual operations
 
@@ -234,7 +243,7 @@ int CommonItemType::getWidgetRow()
     int w = titleWidth(d->itemWidth, dyn, d->contentFontSize);
     if (!d->itemTitle.isEmpty())
         w = widgetWidth(qMax<qint64>(w, 4 * f));
-    d->titleLabel->setWidth(w);
+    setTitleWidth(w);
     d->titleLabel->setItemName(d->itemTitle);
     d->titleLabel->setTextLabel(d->itemTitle, false);
     d->dynamicMaxWidth = static_cast<int>(
@@ -332,7 +341,7 @@ void CommonItemType::setItemTitleRoll(QString const& text, bool roll)
     int const w = titleWidth(d->itemWidth, dyn, d->contentFontSize);
 
     d->itemTitle = text;
-    d->titleLabel->setWidth(w);
+    setTitleWidth(w);
     d->titleLabel->setItemName(text);
     d->titleLabel->setTextLabel(text, roll);
 

@@ -149,6 +149,7 @@ private:
     void ensureLeftIcon() const;
     void ensureSecondTitle() const;
     void ensureRightIcon() const;
+    void setTitleWidth(int width);
     QString smallLabelSheet() const;
 
     struct Impl;
