@@ -84,7 +84,8 @@ ClassEntry ipLineEdit()
         act<T>("slotFocusChanged", [](T* w, Rng& r) { w->slotFocusChanged(nullptr, r.coin() ? w->field(r.between(0, 3)) : nullptr); }),
     };
     e.allowedWarnings = QStringList{"^strIP: ", "^setIpText Your IP Address is Invalid!$",
-                         "^m_isEdit (true|false) ,index: -?\\d+ ,val: -?\\d+ ,step: -?\\d+ ,newVal: -?\\d+$"};
+                         "^m_isEdit (true|false) ,index: -?\\d+ ,val: -?\\d+ ,step: -?\\d+ ,newVal: -?\\d+$",
+                         "^\\[IPLineEdit\\] (setFontSize: font size|setHeight: length) -?\\d+ refused$"};
     return e;
 }
 
