@@ -2,6 +2,7 @@
 // middle (spacers, list height, scroll), moving over hidden rows without wrapping,
 // the signals of a commit and of an Escape, the refusals and their messages, the
 // row's placement over the home frame and its list interface.
+#include "editorpage.h"
 #include "leakcheck.h"
 
 #include <knob.h>
@@ -49,24 +50,10 @@ public:
     QSize m_size{800, 480};
 };
 
-class Page : public QWidget
+// The host page over the panel's whole screen.
+struct Page : EditorTest::Page
 {
-public:
-    Page()
-    {
-        setFocusPolicy(Qt::StrongFocus);
-        setGeometry(0, 0, 800, 480);
-        new QVBoxLayout(this);
-    }
-    bool start()
-    {
-        show();
-        QApplication::setActiveWindow(this);
-        if (!QTest::qWaitForWindowActive(this))
-            return false;
-        setFocus();
-        return true;
-    }
+    Page() : EditorTest::Page(QSize(800, 480), true) {}
 };
 
 struct Recorder
