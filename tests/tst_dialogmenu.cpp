@@ -77,6 +77,16 @@ struct Recorder
     }
 };
 
+// A menu row on `page` with the entries "E0".."E<n-1>" (data 0..n-1).
+TypeDialogMenu* menuRow(Page& page, HomeFrame& frame, int n)
+{
+    auto* row = new TypeDialogMenu(&page, &frame);
+    page.layout()->addWidget(row);
+    for (int i = 0; i < n; ++i)
+        row->addItem(QStringLiteral("E%1").arg(i), i);
+    return row;
+}
+
 } // namespace
 
 class TestDialogMenu : public LeakCheckedTest
@@ -386,10 +396,7 @@ void TestDialogMenu::rowPlacement()
 {
     HomeFrame frame;
     Page page;
-    auto* row = new TypeDialogMenu(&page, &frame);
-    page.layout()->addWidget(row);
-    for (int i = 0; i < 5; ++i)
-        row->addItem(QStringLiteral("E%1").arg(i), i);
+    TypeDialogMenu* row = menuRow(page, frame, 5);
     row->setHomeFramePoint(QPoint(10, 20));
     QVERIFY(page.start());
     row->editValue();
@@ -452,10 +459,7 @@ void TestDialogMenu::rowCommit()
 {
     HomeFrame frame;
     Page page;
-    auto* row = new TypeDialogMenu(&page, &frame);
-    page.layout()->addWidget(row);
-    for (int i = 0; i < 6; ++i)
-        row->addItem(QStringLiteral("E%1").arg(i), i);
+    TypeDialogMenu* row = menuRow(page, frame, 6);
     row->setCurrentIndex(1);
     QCOMPARE(row->labelText(), QStringLiteral("E1"));
     QVERIFY(page.start());
@@ -482,10 +486,7 @@ void TestDialogMenu::rowBack()
 {
     HomeFrame frame;
     Page page;
-    auto* row = new TypeDialogMenu(&page, &frame);
-    page.layout()->addWidget(row);
-    for (int i = 0; i < 6; ++i)
-        row->addItem(QStringLiteral("E%1").arg(i), i);
+    TypeDialogMenu* row = menuRow(page, frame, 6);
     row->setCurrentIndex(4);
     QVERIFY(page.start());
     row->editValue();

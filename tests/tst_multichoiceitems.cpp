@@ -3,6 +3,7 @@
 // of the knob.
 #include <lcdwidgets.h>
 
+#include "hostwindow.h"
 #include "leakcheck.h"
 #include "knob.h"
 
@@ -19,17 +20,7 @@ using namespace LCD::Widget;
 
 namespace {
 
-std::unique_ptr<QWidget> activeHost()
-{
-    auto host = std::make_unique<QWidget>();
-    host->setFocusPolicy(Qt::StrongFocus);
-    host->resize(760, 100);
-    host->show();
-    QApplication::setActiveWindow(host.get());
-    if (!QTest::qWaitForWindowActive(host.get()))
-        qWarning("host window not active");
-    return host;
-}
+std::unique_ptr<QWidget> activeHost() { return HostWindow::activeHost(QSize(760, 100), HostWindow::CanFocus); }
 
 QAbstractButton* buttonAt(MultiWidgetControl* c, int i)
 {
