@@ -220,8 +220,6 @@ int MiniProcessDialog::exec()
 
 void MiniProcessDialog::slot_buttonClicked(QAbstractButton* button) { d->buttons->click(button); }
 
-bool MiniProcessDialog::swallowsBack(QKeyEvent* event) const { return d->type == Progress && ReminderButtons::isBack(event); }
-
 bool MiniProcessDialog::eventFilter(QObject* watched, QEvent* event)
 {
     if (d->buttons->filterKey(watched, event, d->type == Progress, nullptr, false))
@@ -231,11 +229,8 @@ bool MiniProcessDialog::eventFilter(QObject* watched, QEvent* event)
 
 void MiniProcessDialog::keyPressEvent(QKeyEvent* event)
 {
-    if (swallowsBack(event)) {
-        event->accept();
-        return;
-    }
-    QDialog::keyPressEvent(event);
+    if (!ReminderButtons::swallowBack(event, d->type == Progress))
+        QDialog::keyPressEvent(event);
 }
 
 void MiniProcessDialog::showEvent(QShowEvent* event)

@@ -186,21 +186,20 @@ void ReminderButtons::click(QAbstractButton* button)
     }
 }
 
-bool ReminderButtons::isBack(QKeyEvent* event)
+bool ReminderButtons::swallowBack(QKeyEvent* event, bool swallow)
 {
-    return event->key() == Qt::Key_Escape || event->key() == Qt::Key_Back;
+    if (!swallow || (event->key() != Qt::Key_Escape && event->key() != Qt::Key_Back))
+        return false;
+    event->accept();
+    return true;
 }
 
-bool ReminderButtons::filterKey(QObject* watched, QEvent* event, bool swallowBack, QWidget* textView, bool scrollBar) const
+bool ReminderButtons::filterKey(QObject* watched, QEvent* event, bool swallow, QWidget* textView, bool scrollBar) const
 {
     if (event->type() != QEvent::KeyPress || !qobject_cast<QPushButton*>(watched))
         return false;
     auto* key = static_cast<QKeyEvent*>(event);
-    if (swallowBack && isBack(key)) {
-        key->accept();
-        return true;
-    }
-    return navigate(key, textView, scrollBar);
+    return swallowBack(key, swallow) || navigate(key, textView, scrollBar);
 }
 
 bool ReminderButtons::navigate(QKeyEvent* event, QWidget* textView, bool scrollBar) const

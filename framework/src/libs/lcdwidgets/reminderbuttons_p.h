@@ -63,11 +63,12 @@ public:
     QAbstractButton* clicked() const { return m_clicked; }
 
     // A key pressed on one of the buttons (the dialog filters them): a back key is
-    // swallowed when `swallowBack`, the others walk the buttons (see navigate()).
+    // swallowed when `swallow`, the others walk the buttons (see navigate()).
     // Returns true when the key was used.
-    bool filterKey(QObject* watched, QEvent* event, bool swallowBack, QWidget* textView, bool scrollBar) const;
-    // Escape or the back key.
-    static bool isBack(QKeyEvent* event);
+    bool filterKey(QObject* watched, QEvent* event, bool swallow, QWidget* textView, bool scrollBar) const;
+    // A back key (Escape, Back) is accepted and used up when `swallow` (a dialog the
+    // user cannot close): true then.
+    static bool swallowBack(QKeyEvent* event, bool swallow);
 
     static QString textOf(QDialogButtonBox::ButtonRole role);
 

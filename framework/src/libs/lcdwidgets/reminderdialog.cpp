@@ -392,8 +392,6 @@ void ReminderDialog::slotApplyPushBtnClicked() const {}
 
 // ---- Events ----
 
-bool ReminderDialog::swallowsBack(QKeyEvent* event) const { return d->type == Progress && ReminderButtons::isBack(event); }
-
 bool ReminderDialog::eventFilter(QObject* watched, QEvent* event)
 {
     if (d->buttons->filterKey(watched, event, d->type == Progress, d->textView, d->scrollBarShown && d->scrollBar->isVisible()))
@@ -403,11 +401,8 @@ bool ReminderDialog::eventFilter(QObject* watched, QEvent* event)
 
 void ReminderDialog::keyPressEvent(QKeyEvent* event)
 {
-    if (swallowsBack(event)) {
-        event->accept();
-        return;
-    }
-    QDialog::keyPressEvent(event);
+    if (!ReminderButtons::swallowBack(event, d->type == Progress))
+        QDialog::keyPressEvent(event);
 }
 
 void ReminderDialog::showEvent(QShowEvent* event)
