@@ -22,8 +22,8 @@ using namespace LCD::Widget;
 
 namespace {
 
-// The host page: holds one row (sized by its layout), takes the focus back after
-// edits and records the keys that reach it.
+// The host page: holds one row, takes the focus back after edits and records the
+// keys that reach it.
 struct Page : EditorTest::Page
 {
     Page() : EditorTest::Page(QSize()) {}
