@@ -1,6 +1,7 @@
 // The numeric item rows: the integer row's width rule, variants and step guards, the
 // signal sequences of knob edits ended by Escape and Enter, swallowed key releases,
 // and the float, slider, dual-value and spin-adjust rows.
+#include "editorpage.h"
 #include "leakcheck.h"
 
 #include <knob.h>
@@ -27,39 +28,9 @@ bool hiddenOrUnbuilt(QWidget const* w) { return !w || w->isHidden(); }
 
 // The host page: holds one row, takes the focus back after edits and records the
 // keys that reach it.
-class Page : public QWidget
+struct Page : EditorTest::Page
 {
-public:
-    Page()
-    {
-        setFocusPolicy(Qt::StrongFocus);
-        new QVBoxLayout(this);
-    }
-    template <typename Row>
-    Row* add(Row* row)
-    {
-        layout()->addWidget(row);
-        row->setItemTitleWidth(768);
-        row->setItemHeight(56);
-        row->setContentFontSize(20);
-        row->setItemTitle(QStringLiteral("Value"));
-        return row;
-    }
-    bool start()
-    {
-        show();
-        QApplication::setActiveWindow(this);
-        if (!QTest::qWaitForWindowActive(this))
-            return false;
-        setFocus();
-        return hasFocus();
-    }
-    QList<int> pressed;
-    int released = 0;
-
-protected:
-    void keyPressEvent(QKeyEvent* e) override { pressed << e->key(); }
-    void keyReleaseEvent(QKeyEvent*) override { ++released; }
+    Page() : EditorTest::Page(QSize()) {}
 };
 
 // Records the row's protocol signals in the order they come.

@@ -89,8 +89,6 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    bool swallowsBack(QKeyEvent* event) const;
-
     struct Impl;
     std::unique_ptr<Impl> d;
 };
