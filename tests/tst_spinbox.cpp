@@ -18,6 +18,27 @@ using namespace LCD::Widget;
 
 namespace {
 
+// Counts the events of one type a watched object receives.
+class EventCounter : public QObject
+{
+public:
+    EventCounter(QEvent::Type type, int* count) : m_type(type), m_count(count) {}
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() == m_type)
+            ++*m_count;
+        return false;
+    }
+
+private:
+    QEvent::Type m_type;
+    int* m_count;
+};
+
+} // namespace
+
+namespace {
+
 constexpr int kIntMax = std::numeric_limits<int>::max();
 constexpr int kIntMin = std::numeric_limits<int>::min();
 
@@ -524,6 +545,17 @@ void TestSpinBox::focusFrames()
              frame ? QStringLiteral("border: 2px solid rgba(255, 255, 255,0.8);") : QStringLiteral("font-size:20px;"));
     h.other->setFocus();
     QCOMPARE(h.box->styleSheet(), frame ? QStringLiteral("border: none;") : QStringLiteral("font-size:20px;"));
+
+    // A focus change that leaves the sheet's text as it is costs no repolish (the
+    // window losing and regaining activation gives focus-out and focus-in again).
+    h.box->setFocus();
+    int styleChanges = 0;
+    EventCounter counter(QEvent::StyleChange, &styleChanges);
+    h.box->installEventFilter(&counter);
+    QFocusEvent again(QEvent::FocusIn, Qt::ActiveWindowFocusReason);
+    QCoreApplication::sendEvent(h.box, &again);
+    QCOMPARE(styleChanges, 0);
+    h.box->removeEventFilter(&counter);
 }
 
 void TestSpinBox::debugLine()

@@ -1,4 +1,5 @@
 #include "commonitemtype.h"
+#include "sheet_p.h"
 #include "inputcheck_p.h"
 #include "layoutslot_p.h"
 
@@ -289,12 +290,10 @@ void CommonItemType::setContentFontSize(int size)
     d->contentFontSize = size;
     d->fontSizeSet = true;
     QString const sheet = QStringLiteral("QLabel{font-size: %1px; }").arg(size);
-    if (d->titleLabel->styleSheet() != sheet)
-        d->titleLabel->setStyleSheet(sheet);
+    applyStyleSheet(d->titleLabel, sheet);
     QString const smallSheet = smallLabelSheet();
     for (QLabel* label : {static_cast<QLabel*>(d->leftIconTitle), d->secondTitleLabel}) {
-        if (label && label->styleSheet() != smallSheet)
-            label->setStyleSheet(smallSheet);
+        applyStyleSheet(label, smallSheet);
     }
 }
 

@@ -1,4 +1,5 @@
 #include "lcdspinbox.h"
+#include "sheet_p.h"
 
 #include "knoblevel.h"
 #include "lcdtranslate.h"
@@ -250,7 +251,7 @@ void NQSpinBox::focusInEvent(QFocusEvent*)
     // The base handler would re-select the text its own way; the selection here is sign aware.
     setSelection();
     if (drawsFocusFrame())
-        setStyleSheet(QLatin1String(kFocusFrameSheet));
+        applyStyleSheet(this, QLatin1String(kFocusFrameSheet));
 }
 
 void NQSpinBox::focusOutEvent(QFocusEvent* event)
@@ -260,7 +261,7 @@ void NQSpinBox::focusOutEvent(QFocusEvent* event)
     QAbstractSpinBox::focusOutEvent(event);
     m_committed = value();
     if (drawsFocusFrame())
-        setStyleSheet(QLatin1String(kNoFrameSheet));
+        applyStyleSheet(this, QLatin1String(kNoFrameSheet));
     emit editFinished(event->reason());
 }
 
@@ -426,7 +427,7 @@ void NQDoubleSpinBox::keyPressEvent(QKeyEvent* event)
 void NQDoubleSpinBox::focusInEvent(QFocusEvent* event)
 {
     selectAll();
-    setStyleSheet(QLatin1String(kDoubleFocusFrameSheet));
+    applyStyleSheet(this, QLatin1String(kDoubleFocusFrameSheet));
     QDoubleSpinBox::focusInEvent(event);
 }
 
@@ -436,7 +437,7 @@ void NQDoubleSpinBox::focusOutEvent(QFocusEvent* event)
     clearFocus();
     QAbstractSpinBox::focusOutEvent(event);
     m_committed = value();
-    setStyleSheet(QLatin1String(kDoubleNoFrameSheet));
+    applyStyleSheet(this, QLatin1String(kDoubleNoFrameSheet));
     emit editFinished(event->reason());
 }
 

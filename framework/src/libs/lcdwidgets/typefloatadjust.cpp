@@ -1,4 +1,5 @@
 #include "typefloatadjust.h"
+#include "sheet_p.h"
 #include "inputcheck_p.h"
 
 #include "lcdspinbox.h"
@@ -107,7 +108,7 @@ void TypeFloatAdjust::setContentFontSize(int size)
     if (!fontSizeOk("TypeFloatAdjust", "setContentFontSize", size))
         return;
     CommonItemType::setContentFontSize(size);
-    d->spinBox->setStyleSheet(
+    applyStyleSheet(d->spinBox,
         QStringLiteral("QAbstractSpinBox{font-size:%1px; border-radius:%2px; }").arg(size).arg(itemHeight() / 9));
     d->spinBox->setFixedWidth(int(qBound<qint64>(0, qint64(size) * 3, QWIDGETSIZE_MAX)));
 }

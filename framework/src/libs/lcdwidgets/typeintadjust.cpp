@@ -1,4 +1,5 @@
 #include "typeintadjust.h"
+#include "sheet_p.h"
 #include "inputcheck_p.h"
 #include "layoutslot_p.h"
 
@@ -63,7 +64,7 @@ void TypeIntAdjust::createConnections()
 {
     connect(d->spinBox, &NQSpinBox::editFinished, this, [this](Qt::FocusReason) {
         returnFocusToParent(this);
-        d->spinBox->setStyleSheet(fontSheet());
+        applyStyleSheet(d->spinBox, fontSheet());
         emit signalEditFinished();
     });
     connect(d->spinBox, QOverload<int>::of(&QSpinBox::valueChanged), this, [this](int v) {
@@ -137,7 +138,7 @@ void TypeIntAdjust::setContentFontSize(int size)
     if (!fontSizeOk("TypeIntAdjust", "setContentFontSize", size))
         return;
     CommonItemType::setContentFontSize(size);
-    d->spinBox->setStyleSheet(fontSheet());
+    applyStyleSheet(d->spinBox, fontSheet());
     setSpinBoxWidth();
 }
 

@@ -1,4 +1,5 @@
 #include "typeitemarrow.h"
+#include "sheet_p.h"
 #include "inputcheck_p.h"
 #include "layoutslot_p.h"
 
@@ -129,7 +130,7 @@ void TypeItemArrow::setContentFontSize(int size)
     CommonItemType::setContentFontSize(size);
     QString const sheet = spacedLabelFontSheet(size);
     for (int i = 0; i < kValueLabelCount; ++i) {
-        d->values[i]->setStyleSheet(sheet);
+        applyStyleSheet(d->values[i], sheet);
         // Re-cut with the new font.
         d->values[i]->setText(elideWithDots(d->values[i]->fontMetrics(), d->texts[i], qMax(0, getItemWidth()) / 3));
     }

@@ -1,4 +1,5 @@
 #include "typeitemtext.h"
+#include "sheet_p.h"
 #include "inputcheck_p.h"
 #include "layoutslot_p.h"
 
@@ -109,7 +110,7 @@ void TypeItemText::setContentFontSize(int size)
     if (!fontSizeOk("TypeItemText", "setContentFontSize", size))
         return;
     CommonItemType::setContentFontSize(size);
-    d->valueLabel->setStyleSheet(labelFontSheet(size));
+    applyStyleSheet(d->valueLabel, labelFontSheet(size));
     int const side = itemIconSide(itemHeight());
     d->iconSize = QSize(side, side);
     if (d->iconButton)
@@ -221,7 +222,7 @@ void TypeItemTextCenter::setContentFontSize(int size)
     if (!fontSizeOk("TypeItemTextCenter", "setContentFontSize", size))
         return;
     CommonItemType::setContentFontSize(size);
-    d->valueLabel->setStyleSheet(labelFontSheet(size));
+    applyStyleSheet(d->valueLabel, labelFontSheet(size));
 }
 
 void TypeItemTextCenter::setContentEnabled(bool enabled)

@@ -1,4 +1,5 @@
 #include "typeitemtip.h"
+#include "sheet_p.h"
 #include "inputcheck_p.h"
 
 #include "displaytext_p.h"
@@ -82,7 +83,7 @@ void TypeItemTip::setContentFontSize(int size)
     if (!fontSizeOk("TypeItemTip", "setContentFontSize", size))
         return;
     CommonItemType::setContentFontSize(size);
-    d->text->setStyleSheet(spacedLabelFontSheet(qMax(1, static_cast<int>(size * 0.8))));
+    applyStyleSheet(d->text, spacedLabelFontSheet(qMax(1, static_cast<int>(size * 0.8))));
 }
 
 void TypeItemTip::setLeftIconSize(QSize size)
