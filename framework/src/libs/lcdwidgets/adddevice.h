@@ -40,7 +40,7 @@ public:
     QString deviceName() const;
     // The hint under the address ("" when none).
     QString hintText() const;
-    // Sets the page's texts ("Add\nDevice", "IP Address", "Confirm", "Cancel", the hint
+    // Sets the page's texts ("Add Device" on two lines, "IP Address", "Confirm", "Cancel", the hint
     // "Invalid IP address", "Device: %1") again in the current language.
     void retranslateUi();
 

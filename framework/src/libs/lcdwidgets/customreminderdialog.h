@@ -36,7 +36,8 @@ public:
     void addButton(int id, QString const& text, QString const& iconProperty, bool isDelete = false);
     // The calls below log and refuse an id without a tile.
     void setLabelText(int id, QString const& text) const;
-    // Focuses the tile (an unknown id: "[CustomReminderDialog] setBtnFocus button(<id>) does not exist.").
+    // Focuses the tile; an unknown id is logged:
+    // "[CustomReminderDialog] setBtnFocus button(<id>) does not exist."
     void setBtnFocus(int id) const;
     // Disables or enables the tile; its caption is dimmed with it (theme property
     // "isDeleteLabel" or "isPresetDialogText" = !disabled).
@@ -59,7 +60,8 @@ public:
     int getCustomReminderDialogWidth() const;
     // The dialog's height in px (3/5 of the host's height).
     int getCustomReminderDialogHeight() const;
-    // The text size in px derived from the host rectangle (its width / 37.5); captions use 4/5 of it.
+    // The text size in px derived from the host rectangle (its width / 37.5); captions use
+    // 4/5 of it.
     float getFontSize() const;
 
 signals:

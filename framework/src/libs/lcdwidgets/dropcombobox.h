@@ -179,7 +179,8 @@ public:
 
     // Opens the custom list or the standard popup (see usesCustomPopup()) with the cursor on
     // the chosen entry (the first visible one when none), and makes it the active window.
-    // The custom list needs a visible window; without one it logs "-------activeWindow is null-----".
+    // The custom list needs a visible window; without one it logs
+    // "-------activeWindow is null-----".
     void showPopup() override;
     // Closes whichever list is open; when a list opened by showPopup() closes this way
     // without a choice, sigCloseEdit() follows from the event loop.

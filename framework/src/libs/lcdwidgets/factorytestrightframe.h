@@ -41,7 +41,8 @@ class LCDWIDGETS_EXPORT FactoryTestRightFrame : public QFrame
 {
     Q_OBJECT
 public:
-    // No test running; keys Up, Down, press and Escape expected; knob target 5; T-bar range 50..950.
+    // No test running; keys Up, Down, press and Escape expected; knob target 5; T-bar
+    // range 50..950.
     explicit FactoryTestRightFrame(QWidget* parent = nullptr);
     ~FactoryTestRightFrame() override;
 

@@ -27,7 +27,8 @@ class LCDWIDGETS_EXPORT QSignalLineEditWidget : public QFrame
     // The editor's text.
     Q_PROPERTY(QString text READ text WRITE setText)
 public:
-    // A title, an empty editor that starts its edits with the focus, and a unit (hidden when empty).
+    // A title, an empty editor that starts its edits with the focus, and a unit (hidden
+    // when empty).
     explicit QSignalLineEditWidget(QString const& title = QString(), QString const& unit = QString(),
                                    QWidget* parent = nullptr);
     ~QSignalLineEditWidget() override;

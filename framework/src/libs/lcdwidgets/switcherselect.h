@@ -120,7 +120,8 @@ public:
     bool hideInterface();
     // Whether the add-device page is shown.
     bool isAddDeviceShow() const;
-    // Sets "Select\nSwitcher", "Add", "Enter" (and the add-device page's texts) again.
+    // Sets "Select Switcher" (on two lines), "Add", "Enter" (and the add-device page's
+    // texts) again.
     void retranslateUi();
 
     // Forwarded to the add-device page (empty / nothing before it was first opened).

@@ -29,7 +29,8 @@ public:
     QString labelText(int index) const;
     // Shows or hides a value text (a bad index is logged).
     void setLabelVisible(int index, bool visible);
-    // Sets a theme property on a value text and repolishes it (bad index logged; null name ignored).
+    // Sets a theme property on a value text and repolishes it (bad index logged; null name
+    // ignored).
     void setLabelProperty(int index, char const* name, QVariant const& value);
     // Label 0.
     void setLabelValue(QVariant value, int mode) override;

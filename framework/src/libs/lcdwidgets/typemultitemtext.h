@@ -35,7 +35,8 @@ public:
     void setLabelText(int index, QVariant value);
     // A value's full text (not the cut one); empty (and logged) for a bad index.
     QString getLabelText(int index) const;
-    // Sets a theme property on a value's label and repolishes it (bad index logged; null name ignored).
+    // Sets a theme property on a value's label and repolishes it (bad index logged; null
+    // name ignored).
     void setLabelProperty(int index, char const* name, QVariant const& value);
     // Label 0.
     void setLabelValue(QVariant value, int mode) override;

@@ -117,7 +117,7 @@ public:
     void setPreValueLabelUserdata(QVariant data);
     // The label's "userdata" property; invalid when never set.
     QVariant getPreValueLabelUserdata() const;
-    // The object name of the label before the value (for the theme's #name rules).
+    // The object name of the label before the value (for the theme's object-name selectors).
     void setPreValueLabelObjectName(QString name);
     // The object name of the label before the value.
     QString getPreValueLabelObjectName() const;

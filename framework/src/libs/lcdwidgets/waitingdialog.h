@@ -47,7 +47,8 @@ public:
     void hideWaitingDialog();
 
     // The text under the image, in the colour of `level` (white, yellow, red); an unknown
-    // level is logged ("[WaitingDialog] setInformativeText: unknown text level") and taken as White.
+    // level is logged ("[WaitingDialog] setInformativeText: unknown text level") and taken
+    // as White.
     void setInformativeText(QString const& text, TooltipLevel level = White);
     // The text under the image.
     QString informativeText() const;
