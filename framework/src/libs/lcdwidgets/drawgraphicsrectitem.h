@@ -23,7 +23,7 @@ public:
     explicit DrawGraphicsRectItem(QGraphicsItem* parent = nullptr);
     ~DrawGraphicsRectItem() override;
 
-    // Type.
+    // Type: the item type of these rectangles.
     int type() const override { return Type; }
     // (0, 0) and the item's size.
     QRectF boundingRect() const override;
