@@ -2,6 +2,8 @@
 // focused child of a MultiBtnControl (six buttons) and of an EffectPictureWidget
 // (twelve effects; each step starts the focused effect's preview), against a bare
 // row of six QPushButtons whose event filter moves the focus the same way.
+#include "benchpanel.h"
+
 #include <lcdwidgets.h>
 
 #include <benchmark/benchmark.h>
@@ -103,9 +105,7 @@ struct Panel
         layout->addWidget(buttons);
         layout->addWidget(effects);
         layout->addWidget(stillEffects);
-        window.show();
-        QApplication::setActiveWindow(&window);
-        QApplication::processEvents();
+        Bench::showActive(window);
     }
 };
 
@@ -114,13 +114,7 @@ Panel* panel = nullptr;
 void runDetents(benchmark::State& state, QWidget* focusFirst)
 {
     focusFirst->setFocus(Qt::TabFocusReason);
-    bool up = false;
-    for (auto _ : state) {
-        QWidget* target = QApplication::focusWidget();
-        QKeyEvent press(QEvent::KeyPress, up ? Qt::Key_Up : Qt::Key_Down, Qt::NoModifier, QStringLiteral("1"));
-        QApplication::sendEvent(target, &press);
-        up = !up;
-    }
+    Bench::runDetents(state);
 }
 
 void BM_BareButtons(benchmark::State& state) { runDetents(state, panel->bare->buttons.at(2)); }

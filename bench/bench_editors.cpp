@@ -2,6 +2,8 @@
 // focused number line edit, the knob text entry, a field of a multi-value row and
 // a channel of the colour row, against a bare QDoubleSpinBox stepped by its own
 // stepBy().
+#include "benchpanel.h"
+
 #include <lcdwidgets.h>
 
 #include <benchmark/benchmark.h>
@@ -42,23 +44,13 @@ struct Panel
                            static_cast<QWidget*>(multi), static_cast<QWidget*>(colour)})
             layout->addWidget(w);
         window.resize(800, 400);
-        window.show();
-        QApplication::setActiveWindow(&window);
-        QApplication::processEvents();
+        Bench::showActive(window);
     }
 };
 
 Panel* panel = nullptr;
 
-void runDetents(benchmark::State& state)
-{
-    bool up = false;
-    for (auto _ : state) {
-        QKeyEvent press(QEvent::KeyPress, up ? Qt::Key_Up : Qt::Key_Down, Qt::NoModifier, QStringLiteral("1"));
-        QApplication::sendEvent(QApplication::focusWidget(), &press);
-        up = !up;
-    }
-}
+using Bench::runDetents;
 
 void BM_BareDoubleSpinBox(benchmark::State& state)
 {

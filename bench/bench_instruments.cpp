@@ -14,6 +14,8 @@
 //
 // Painting goes to a QImage through QWidget::render, so the figures do not depend on
 // the platform plug-in's screen.
+#include "benchpanel.h"
+
 #include <lcdwidgets.h>
 
 #include <benchmark/benchmark.h>
@@ -76,9 +78,7 @@ struct Panel
         row->setContentFontSize(20);
         row->setFixedHeight(212);
         layout->addWidget(row);
-        window.show();
-        QApplication::setActiveWindow(&window);
-        QApplication::processEvents();
+        Bench::showActive(window);
         target = QImage(row->size() * window.devicePixelRatioF(), QImage::Format_ARGB32_Premultiplied);
         target.setDevicePixelRatio(window.devicePixelRatioF());
     }
@@ -128,8 +128,7 @@ void BM_KnobStepToTheEnd(benchmark::State& state)
     bool down = true;
     long long frames = 0;
     for (auto _ : state) {
-        QKeyEvent press(QEvent::KeyPress, down ? Qt::Key_Down : Qt::Key_Up, Qt::NoModifier, QStringLiteral("1"));
-        QApplication::sendEvent(dial, &press);
+        Bench::knobKey(dial, down ? Qt::Key_Down : Qt::Key_Up);
         down = !down;
         // The animation's frames, as the 60 Hz animation timer would drive them.
         int const duration = animation->duration();
@@ -153,8 +152,7 @@ void BM_KnobKey(benchmark::State& state)
     dial->setCurrentValue(50);
     bool down = true;
     for (auto _ : state) {
-        QKeyEvent press(QEvent::KeyPress, down ? Qt::Key_Down : Qt::Key_Up, Qt::NoModifier, QStringLiteral("1"));
-        QApplication::sendEvent(dial, &press);
+        Bench::knobKey(dial, down ? Qt::Key_Down : Qt::Key_Up);
         down = !down;
     }
     dial->setCurrentValue(50);

@@ -10,6 +10,7 @@
 // on and a message handler throws it away.
 #include <lcdwidgets.h>
 
+#include "benchpanel.h"
 #include "benchratio.h"
 
 #include <benchmark/benchmark.h>
@@ -68,9 +69,7 @@ struct Panel
 
         layout->addWidget(row);
         layout->addWidget(bare);
-        window.show();
-        QApplication::setActiveWindow(&window);
-        QApplication::processEvents();
+        Bench::showActive(window);
     }
 };
 

@@ -78,6 +78,12 @@ CommonItemType* libraryRow(int i, QWidget* parent)
     row->setFixedHeight(kRowHeight);
     row->ensurePolished();
     row->setItemTitleText(row->itemTitle());
+    // The title's rule leaves out the right icon and the row's spacing: where the whole
+    // row would be wider than the page, the title gets less.
+    if (int const over = row->sizeHint().width() - kItemWidth; over > 0) {
+        row->setItemTitleWidth(kItemWidth - over);
+        row->setItemTitleText(row->itemTitle());
+    }
     return row;
 }
 

@@ -5,6 +5,8 @@
 //
 // The theme is the build tree's copy of the default theme, loaded as the application
 // style sheet as a host does; debug output is off ("Switcher Info" is a debug line).
+#include "benchpanel.h"
+
 #include <lcdwidgets.h>
 
 #include <benchmark/benchmark.h>
@@ -121,18 +123,15 @@ void BM_SwitcherKnobStep(benchmark::State& state)
     QApplication::setActiveWindow(&window);
     // From the middle of the grid: each step moves to the next (or previous) switcher
     // and scrolls it into view.
-    for (int i = 0; i < kCount / 2; ++i) {
-        QKeyEvent down(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier, QStringLiteral("1"));
-        QApplication::sendEvent(QApplication::focusWidget(), &down);
-    }
+    for (int i = 0; i < kCount / 2; ++i)
+        Bench::knobKey(QApplication::focusWidget(), Qt::Key_Down);
     if (page->selectedIndex() != kCount / 2) {
         state.SkipWithError("the knob does not reach the middle of the grid");
         return;
     }
     bool down = true;
     for (auto _ : state) {
-        QKeyEvent key(QEvent::KeyPress, down ? Qt::Key_Down : Qt::Key_Up, Qt::NoModifier, QStringLiteral("1"));
-        QApplication::sendEvent(QApplication::focusWidget(), &key);
+        Bench::knobKey(QApplication::focusWidget(), down ? Qt::Key_Down : Qt::Key_Up);
         down = !down;
     }
     QApplication::processEvents();

@@ -2,21 +2,19 @@
 // dialog (build, show, first paint, close) must fit in one 60 Hz frame; a knob step
 // in the text view and the about page, a progress update, and a key swallowed by the
 // locked panel must cost microseconds.
+#include "benchpanel.h"
+
 #include <lcdwidgets.h>
 
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
-#include <QDir>
-#include <QFile>
 #include <QKeyEvent>
-#include <cstdio>
 
 using namespace LCD::Widget;
+using Bench::kPanel;
 
 namespace {
-
-QRect const kPanel(0, 0, 800, 480);
 
 QString licence()
 {
@@ -26,12 +24,6 @@ QString licence()
     return lines.join(QLatin1Char('\n'));
 }
 
-void step(QWidget* w, int key)
-{
-    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, QStringLiteral("1"));
-    QApplication::sendEvent(w, &press);
-}
-
 void BM_TextViewOpenClose(benchmark::State& state)
 {
     QString const text = licence();
@@ -39,11 +31,7 @@ void BM_TextViewOpenClose(benchmark::State& state)
         TextViewDialog dialog(kPanel);
         dialog.setTitle(QStringLiteral("Licences"));
         dialog.setText(text);
-        dialog.show();
-        QImage frame(dialog.size(), QImage::Format_ARGB32_Premultiplied);
-        dialog.render(&frame);
-        dialog.close();
-        benchmark::DoNotOptimize(frame.constBits());
+        Bench::showPaintClose(dialog);
     }
 }
 BENCHMARK(BM_TextViewOpenClose)->Unit(benchmark::kMillisecond);
@@ -57,7 +45,7 @@ void BM_TextViewKnobStep(benchmark::State& state)
     QWidget* target = QApplication::focusWidget() ? QApplication::focusWidget() : &dialog;
     int i = 0;
     for (auto _ : state)
-        step(target, (i++ / 20) % 2 ? Qt::Key_Up : Qt::Key_Down);
+        Bench::knobKey(target, (i++ / 20) % 2 ? Qt::Key_Up : Qt::Key_Down);
 }
 BENCHMARK(BM_TextViewKnobStep)->Unit(benchmark::kMicrosecond);
 
@@ -68,11 +56,7 @@ void BM_MultiProgressOpenClose(benchmark::State& state)
         dialog.setTitle(QStringLiteral("Updating cameras"));
         for (int t = 0; t < 8; ++t)
             dialog.addTask(QStringLiteral("Camera %1").arg(t));
-        dialog.show();
-        QImage frame(dialog.size(), QImage::Format_ARGB32_Premultiplied);
-        dialog.render(&frame);
-        dialog.close();
-        benchmark::DoNotOptimize(frame.constBits());
+        Bench::showPaintClose(dialog);
     }
 }
 BENCHMARK(BM_MultiProgressOpenClose)->Unit(benchmark::kMillisecond);
@@ -100,7 +84,7 @@ void BM_AboutPageKnobStep(benchmark::State& state)
     QApplication::processEvents();
     int i = 0;
     for (auto _ : state)
-        step(&page, (i++ / 19) % 2 ? Qt::Key_Up : Qt::Key_Down);
+        Bench::knobKey(&page, (i++ / 19) % 2 ? Qt::Key_Up : Qt::Key_Down);
 }
 BENCHMARK(BM_AboutPageKnobStep)->Unit(benchmark::kMicrosecond);
 
@@ -110,40 +94,13 @@ void BM_LockedPanelSwallowsKey(benchmark::State& state)
     LockPanel lock(kPanel, &page);
     lock.setReminderTime(3600000);
     lock.lock();
-    step(&page, Qt::Key_Down); // the reminder is up: later keys only keep it up
+    Bench::knobKey(&page, Qt::Key_Down); // the reminder is up: later keys only keep it up
     for (auto _ : state)
-        step(&page, Qt::Key_Down);
+        Bench::knobKey(&page, Qt::Key_Down);
     lock.unlock();
 }
 BENCHMARK(BM_LockedPanelSwallowsKey)->Unit(benchmark::kMicrosecond);
 
-QtMessageHandler g_previous = nullptr;
-
-void dropPlatformNotes(QtMsgType type, QMessageLogContext const& context, QString const& message)
-{
-    if (message.startsWith(QLatin1String("This plugin does not support")))
-        return;
-    if (g_previous)
-        g_previous(type, context, message);
-}
-
 } // namespace
 
-int main(int argc, char** argv)
-{
-    if (!qEnvironmentVariableIsSet("QT_LOGGING_RULES"))
-        qputenv("QT_LOGGING_RULES", "default.debug=false");
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-    g_previous = qInstallMessageHandler(dropPlatformNotes);
-    QDir::setCurrent(QCoreApplication::applicationDirPath());
-    QFile theme(QStringLiteral("./../share/themes/default/default.qss"));
-    if (theme.open(QIODevice::ReadOnly))
-        app.setStyleSheet(QString::fromUtf8(theme.readAll()));
-    std::printf("theme: %s\n", theme.isOpen() ? "default" : "none (not in the build tree)");
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
-}
+int main(int argc, char** argv) { return Bench::themedMain(argc, argv); }

@@ -3,6 +3,7 @@
 // modal), and the spinner-like value chooser.
 #include <lcdwidgets.h>
 
+#include "hostwindow.h"
 #include "leakcheck.h"
 #include "knob.h"
 
@@ -19,16 +20,7 @@ using namespace LCD::Widget;
 
 namespace {
 
-std::unique_ptr<QWidget> activeHost()
-{
-    auto host = std::make_unique<QWidget>();
-    host->resize(700, 120);
-    host->show();
-    QApplication::setActiveWindow(host.get());
-    if (!QTest::qWaitForWindowActive(host.get()))
-        qWarning("host window not active");
-    return host;
-}
+std::unique_ptr<QWidget> activeHost() { return HostWindow::activeHost(QSize(700, 120), HostWindow::NoFocus); }
 
 std::vector<ItemSelectInfo> inputs()
 {

@@ -65,6 +65,7 @@ private slots:
     void widgetRow();
     void enabling();
     void leftIconArea();
+    void rightIconBuiltOnFirstUse();
     void labelRowLatin();
     void labelRowChinese();
     void labelRowDegenerate();
@@ -279,6 +280,49 @@ void TestCommonItemType::leftIconArea()
 
     row.setRightIconSize(QSize(24, 20));
     QCOMPARE(row.rightIconButton()->size(), QSize(24, 20));
+}
+
+void TestCommonItemType::rightIconBuiltOnFirstUse()
+{
+    auto rightOf = [](QWidget const& w) { return w.findChild<QPushButton*>(QStringLiteral("itemRightIconButton")); };
+
+    // A row that never hides it has it once polished, shown, in its place.
+    Row shown;
+    shown.ensurePolished();
+    QPushButton* right = rightOf(shown);
+    QVERIFY(right);
+    QVERIFY(!right->isHidden());
+    QCOMPARE(shown.rowLayout()->itemAt(3)->widget(), right);
+    QCOMPARE(shown.rowLayout()->count(), 4);
+
+    // A row that hides it before it is polished never builds it...
+    QWidget page;
+    auto* hidden = new Row;
+    hidden->setParent(&page);
+    hidden->setRightIconButtonHide(true);
+    hidden->setContentEnabled(false);
+    page.show();
+    QVERIFY(!rightOf(*hidden));
+    QCOMPARE(hidden->rowLayout()->count(), 4);
+    // ...until asked for: then it is what it would have been (disabled with the row,
+    // in position 3, and shown on a row already on screen).
+    hidden->setRightIconButtonHide(false);
+    right = rightOf(*hidden);
+    QVERIFY(right);
+    QCOMPARE(hidden->rowLayout()->itemAt(3)->widget(), right);
+    QCOMPARE(right->focusPolicy(), Qt::NoFocus);
+    QVERIFY(!right->isEnabled());
+    QVERIFY(right->isVisible());
+    hidden->setRightIconButtonHide(true);
+    QVERIFY(right->isHidden());
+
+    // A property or a size set on the hidden icon builds it, still hidden.
+    Row styled;
+    styled.setRightIconButtonHide(true);
+    styled.setRightIconButtonProperty("isIconListEdit", true);
+    QVERIFY(rightOf(styled));
+    QVERIFY(rightOf(styled)->isHidden());
+    QCOMPARE(rightOf(styled)->property("isIconListEdit"), QVariant(true));
 }
 
 void TestCommonItemType::labelRowLatin()

@@ -2,6 +2,7 @@
 // middle (spacers, list height, scroll), moving over hidden rows without wrapping,
 // the signals of a commit and of an Escape, the refusals and their messages, the
 // row's placement over the home frame and its list interface.
+#include "editorpage.h"
 #include "leakcheck.h"
 
 #include <knob.h>
@@ -49,24 +50,10 @@ public:
     QSize m_size{800, 480};
 };
 
-class Page : public QWidget
+// The host page over the panel's whole screen.
+struct Page : EditorTest::Page
 {
-public:
-    Page()
-    {
-        setFocusPolicy(Qt::StrongFocus);
-        setGeometry(0, 0, 800, 480);
-        new QVBoxLayout(this);
-    }
-    bool start()
-    {
-        show();
-        QApplication::setActiveWindow(this);
-        if (!QTest::qWaitForWindowActive(this))
-            return false;
-        setFocus();
-        return true;
-    }
+    Page() : EditorTest::Page(QSize(800, 480), true) {}
 };
 
 struct Recorder
@@ -89,6 +76,16 @@ struct Recorder
         return out;
     }
 };
+
+// A menu row on `page` with the entries "E0".."E<n-1>" (data 0..n-1).
+TypeDialogMenu* menuRow(Page& page, HomeFrame& frame, int n)
+{
+    auto* row = new TypeDialogMenu(&page, &frame);
+    page.layout()->addWidget(row);
+    for (int i = 0; i < n; ++i)
+        row->addItem(QStringLiteral("E%1").arg(i), i);
+    return row;
+}
 
 } // namespace
 
@@ -399,10 +396,7 @@ void TestDialogMenu::rowPlacement()
 {
     HomeFrame frame;
     Page page;
-    auto* row = new TypeDialogMenu(&page, &frame);
-    page.layout()->addWidget(row);
-    for (int i = 0; i < 5; ++i)
-        row->addItem(QStringLiteral("E%1").arg(i), i);
+    TypeDialogMenu* row = menuRow(page, frame, 5);
     row->setHomeFramePoint(QPoint(10, 20));
     QVERIFY(page.start());
     row->editValue();
@@ -465,10 +459,7 @@ void TestDialogMenu::rowCommit()
 {
     HomeFrame frame;
     Page page;
-    auto* row = new TypeDialogMenu(&page, &frame);
-    page.layout()->addWidget(row);
-    for (int i = 0; i < 6; ++i)
-        row->addItem(QStringLiteral("E%1").arg(i), i);
+    TypeDialogMenu* row = menuRow(page, frame, 6);
     row->setCurrentIndex(1);
     QCOMPARE(row->labelText(), QStringLiteral("E1"));
     QVERIFY(page.start());
@@ -495,10 +486,7 @@ void TestDialogMenu::rowBack()
 {
     HomeFrame frame;
     Page page;
-    auto* row = new TypeDialogMenu(&page, &frame);
-    page.layout()->addWidget(row);
-    for (int i = 0; i < 6; ++i)
-        row->addItem(QStringLiteral("E%1").arg(i), i);
+    TypeDialogMenu* row = menuRow(page, frame, 6);
     row->setCurrentIndex(4);
     QVERIFY(page.start());
     row->editValue();

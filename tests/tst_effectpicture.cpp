@@ -4,6 +4,7 @@
 // preview plays. The theme's own effect pictures and previews are used.
 #include <lcdwidgets.h>
 
+#include "hostwindow.h"
 #include "leakcheck.h"
 #include "knob.h"
 
@@ -38,17 +39,7 @@ QMap<int, QPair<QString, QString>> choices(int n)
     return map;
 }
 
-std::unique_ptr<QWidget> activeHost()
-{
-    auto host = std::make_unique<QWidget>();
-    host->setFocusPolicy(Qt::StrongFocus);
-    host->resize(800, 300);
-    host->show();
-    QApplication::setActiveWindow(host.get());
-    if (!QTest::qWaitForWindowActive(host.get()))
-        qWarning("host window not active");
-    return host;
-}
+std::unique_ptr<QWidget> activeHost() { return HostWindow::activeHost(QSize(800, 300), HostWindow::CanFocus); }
 
 QList<bool> checks(EffectPictureWidget const* w)
 {

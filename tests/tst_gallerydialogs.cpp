@@ -1,10 +1,7 @@
 // The gallery's Dialogs page, worked with the knob: every row opens its dialog on
 // the press, and the page has the knob again once the dialog is gone.
 #include "leakcheck.h"
-#include "gallerycontext.h"
-#include "galleryhost.h"
-#include "gallerywindow.h"
-#include "itempage.h"
+#include "gallerytest.h"
 #include "knob.h"
 #include "modal.h"
 
@@ -23,22 +20,13 @@ private slots:
 void TestGalleryDialogs::everyRowOpensItsDialog()
 {
     QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
-    GalleryHostApi host;
-    GalleryContext context;
-    context.host = &host;
-    context.homeRect = QRect(0, 0, GalleryWindow::kWidth, GalleryWindow::kHeight);
-    GalleryWindow window(context, QStringLiteral("lcdwidgets 0.1.0"));
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    Gallery gallery;
+    GalleryWindow& window = gallery.window;
+    QVERIFY(gallery.show());
     window.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&window));
-    int index = -1;
-    for (int p = 0; p < window.pageCount(); ++p)
-        if (window.pageId(p) == QLatin1String("dialogs"))
-            index = p;
-    QVERIFY(index >= 0);
-    window.showPage(index);
-    ItemPage* page = window.page(index);
+    ItemPage* page = gallery.openPage(QStringLiteral("dialogs"), false);
+    QVERIFY(page);
     QVERIFY(page->count() >= 15);
 
     // Whatever modal comes up is noted and closed: with Escape first, by force for
@@ -51,12 +39,8 @@ void TestGalleryDialogs::everyRowOpensItsDialog()
             return;
         opened << QString::fromLatin1(modal->metaObject()->className());
         Modal::key(modal, Qt::Key_Escape);
-        if (!modal->isVisible())
-            return;
-        if (auto* waiting = qobject_cast<LCD::Widget::WaitingDialog*>(modal))
-            waiting->hideWaitingDialog();
-        else if (auto* dialog = qobject_cast<QDialog*>(modal))
-            dialog->done(-1);
+        if (modal->isVisible())
+            forceClose(modal);
     });
     watcher.start(5);
     Modal::Guard guard(60000);

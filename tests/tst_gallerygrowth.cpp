@@ -2,10 +2,7 @@
 // that a row builds for an edit is deleted after it, or kept and used again; it never
 // piles up for as long as the page lives (the per-function leak check cannot see
 // that: the page deletes its children at the end).
-#include "gallerycontext.h"
-#include "galleryhost.h"
-#include "gallerywindow.h"
-#include "itempage.h"
+#include "gallerytest.h"
 #include "knob.h"
 #include "leakcheck.h"
 
@@ -73,13 +70,9 @@ QMap<QString, int> census()
 void TestGalleryGrowth::editsLeaveNoWidgetsBehind()
 {
     QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
-    GalleryHostApi host;
-    GalleryContext context;
-    context.host = &host;
-    context.homeRect = QRect(0, 0, GalleryWindow::kWidth, GalleryWindow::kHeight);
-    GalleryWindow window(context, QStringLiteral("lcdwidgets 0.1.0"));
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    Gallery gallery;
+    GalleryWindow& window = gallery.window;
+    QVERIFY(gallery.show());
 
     // Modal dialogs opened by a press are worked shut: Escape, or by force for the
     // ones the user cannot close.
@@ -91,14 +84,8 @@ void TestGalleryGrowth::editsLeaveNoWidgetsBehind()
             return;
         ++modals;
         Knob::back(modal);
-        if (!modal || !modal->isVisible())
-            return;
-        if (auto* waiting = qobject_cast<LCD::Widget::WaitingDialog*>(modal.data()))
-            waiting->hideWaitingDialog();
-        else if (auto* dialog = qobject_cast<QDialog*>(modal.data()))
-            dialog->done(-1);
-        else
-            modal->hide();
+        if (modal && modal->isVisible())
+            forceClose(modal);
     });
     closer.start(5);
 

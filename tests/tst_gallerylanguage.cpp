@@ -1,9 +1,6 @@
 // The gallery's language key: L on a page's list switches the library's texts to
 // Chinese and back, live; while a row is edited the key is the editor's.
-#include "gallerycontext.h"
-#include "galleryhost.h"
-#include "gallerywindow.h"
-#include "itempage.h"
+#include "gallerytest.h"
 #include "knob.h"
 #include "leakcheck.h"
 
@@ -40,23 +37,13 @@ void TestGalleryLanguage::languageNames()
 
 void TestGalleryLanguage::lKeySwitchesTheLanguageLive()
 {
-    GalleryHostApi host;
-    GalleryContext context;
-    context.host = &host;
-    context.homeRect = QRect(0, 0, GalleryWindow::kWidth, GalleryWindow::kHeight);
-    GalleryWindow window(context, QStringLiteral("lcdwidgets 0.1.0"));
-    KnobKeyboard keyboard(&window, context);
+    Gallery gallery;
+    KnobKeyboard keyboard(&gallery.window, gallery.context);
     qApp->installEventFilter(&keyboard);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(gallery.show());
 
-    int network = -1;
-    for (int i = 0; i < window.pageCount(); ++i)
-        if (window.pageId(i) == QLatin1String("network"))
-            network = i;
-    QVERIFY(network >= 0);
-    window.showPage(network);
-    ItemPage* page = window.page(network);
+    ItemPage* page = gallery.openPage(QStringLiteral("network"), false);
+    QVERIFY(page);
     auto* settings = page->findChild<NetworkSettings*>();
     QVERIFY(settings);
     page->list()->setFocus();

@@ -2,10 +2,7 @@
 // current, pressed, turned slowly and fast, and left with Escape. Each edit that
 // starts must end and give the knob back to the page.
 #include "leakcheck.h"
-#include "gallerycontext.h"
-#include "galleryhost.h"
-#include "gallerywindow.h"
-#include "itempage.h"
+#include "gallerytest.h"
 #include "knob.h"
 
 #include <commonitemtype.h>
@@ -30,13 +27,9 @@ private slots:
 
 void TestGalleryWalk::everyRowEditsAndGivesTheKnobBack()
 {
-    GalleryHostApi host;
-    GalleryContext context;
-    context.host = &host;
-    context.homeRect = QRect(0, 0, GalleryWindow::kWidth, GalleryWindow::kHeight);
-    GalleryWindow window(context, QStringLiteral("lcdwidgets 0.1.0"));
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    Gallery gallery;
+    QVERIFY(gallery.show());
+    GalleryWindow& window = gallery.window;
     QVERIFY(window.pageCount() >= 3);
 
     int edited = 0;
@@ -72,14 +65,10 @@ void TestGalleryWalk::everyRowEditsAndGivesTheKnobBack()
 
 void TestGalleryWalk::knobWalksTheRows()
 {
-    GalleryHostApi host;
-    GalleryContext context;
-    context.host = &host;
-    GalleryWindow window(context, QStringLiteral("lcdwidgets 0.1.0"));
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    window.showPage(0);
-    ItemPage* page = window.page(0);
+    Gallery gallery(false);
+    QVERIFY(gallery.show());
+    gallery.window.showPage(0);
+    ItemPage* page = gallery.window.page(0);
     QCOMPARE(page->currentIndex(), 0);
     Knob::turn(page->list(), -3); // Down three times
     QCOMPARE(page->currentIndex(), 3);
@@ -92,20 +81,10 @@ void TestGalleryWalk::knobWalksTheRows()
 // ---- Instruments page: a dial turned, the crop moved to the picture's edge ----
 void TestGalleryWalk::instrumentsPageWorksWithTheKnob()
 {
-    GalleryHostApi host;
-    GalleryContext context;
-    context.host = &host;
-    GalleryWindow window(context, QStringLiteral("lcdwidgets 0.1.0"));
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    int index = -1;
-    for (int p = 0; p < window.pageCount(); ++p)
-        if (window.pageId(p) == QLatin1String("instruments"))
-            index = p;
-    QVERIFY(index >= 0);
-    window.showPage(index);
-    ItemPage* page = window.page(index);
-    page->activate();
+    Gallery gallery(false);
+    QVERIFY(gallery.show());
+    ItemPage* page = gallery.openPage(QStringLiteral("instruments"));
+    QVERIFY(page);
 
     auto* dials = qobject_cast<LCD::Widget::TypeItemDashBoard*>(page->itemAt(0));
     QVERIFY(dials);
@@ -148,29 +127,13 @@ void TestGalleryWalk::instrumentsPageWorksWithTheKnob()
 }
 
 // ---- Layers page: a layer moved to the front, the preview and the other rows follow ----
-namespace {
-int pageIndex(GalleryWindow& window, QString const& id)
-{
-    for (int p = 0; p < window.pageCount(); ++p)
-        if (window.pageId(p) == id)
-            return p;
-    return -1;
-}
-} // namespace
 
 void TestGalleryWalk::layersPageMovesLayersWithTheKnob()
 {
-    GalleryHostApi host;
-    GalleryContext context;
-    context.host = &host;
-    GalleryWindow window(context, QStringLiteral("lcdwidgets 0.1.0"));
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    int const index = pageIndex(window, QStringLiteral("layers"));
-    QVERIFY(index >= 0);
-    window.showPage(index);
-    ItemPage* page = window.page(index);
-    page->activate();
+    Gallery gallery(false);
+    QVERIFY(gallery.show());
+    ItemPage* page = gallery.openPage(QStringLiteral("layers"));
+    QVERIFY(page);
 
     auto* previewRow = qobject_cast<LCD::Widget::TypePreviewWidget*>(page->itemAt(0));
     QVERIFY(previewRow);
@@ -216,17 +179,10 @@ void TestGalleryWalk::layersPageMovesLayersWithTheKnob()
 // ---- Factory test page: the knob test run from the list, the mark set ----
 void TestGalleryWalk::factoryTestPageRunsATest()
 {
-    GalleryHostApi host;
-    GalleryContext context;
-    context.host = &host;
-    GalleryWindow window(context, QStringLiteral("lcdwidgets 0.1.0"));
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    int const index = pageIndex(window, QStringLiteral("factorytest"));
-    QVERIFY(index >= 0);
-    window.showPage(index);
-    ItemPage* page = window.page(index);
-    page->activate();
+    Gallery gallery(false);
+    QVERIFY(gallery.show());
+    ItemPage* page = gallery.openPage(QStringLiteral("factorytest"));
+    QVERIFY(page);
     page->setCurrentIndex(0);
     auto* frame = page->itemAt(0)->findChild<LCD::Widget::FactoryTestFrame*>();
     QVERIFY(frame);
@@ -249,14 +205,12 @@ void TestGalleryWalk::keysWorkInAnInactiveWindow()
 {
     // A kiosk session without a window manager never activates the window: keys
     // still arrive, at the window's focus widget, and must work as on the panel.
-    GalleryHostApi host;
-    GalleryContext context;
-    context.host = &host;
-    GalleryWindow window(context, QStringLiteral("lcdwidgets 0.1.0"));
-    KnobKeyboard keyboard(&window, context);
+    Gallery gallery(false);
+    GalleryWindow& window = gallery.window;
+    GalleryHostApi& host = gallery.host;
+    KnobKeyboard keyboard(&window, gallery.context);
     qApp->installEventFilter(&keyboard);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(gallery.show());
     QApplication::setActiveWindow(nullptr);
     QCOMPARE(QApplication::focusWidget(), static_cast<QWidget*>(nullptr));
     window.showPage(0);

@@ -64,6 +64,7 @@ private slots:
 
     void patternKeepsItsQuirks();
     void setIpTextRefusesNonAddresses();
+    void sizeSettersRefuseAndLog();
     void stepFollowsTheLevel();
     void rowStepsWithinOctetLimits();
     void rowWalksFieldsAfterThePress();
@@ -115,6 +116,31 @@ void TestIpEntry::setIpTextRefusesNonAddresses()
     QCOMPARE(e.Iptext(), QStringLiteral("172.16.0.1"));
     e.clearText();
     QCOMPARE(e.Iptext(), QStringLiteral("..."));
+}
+
+void TestIpEntry::sizeSettersRefuseAndLog()
+{
+    IPLineEdit e;
+    e.setFontSize(20);
+    e.setHeight(30);
+    int const width = e.field(0)->maximumWidth();
+    for (int bad : {0, -5, 513, std::numeric_limits<int>::max()}) {
+        QTest::ignoreMessage(QtWarningMsg, qPrintable(QStringLiteral("[IPLineEdit] setFontSize: font size %1 refused").arg(bad)));
+        e.setFontSize(bad);
+    }
+    for (int bad : {0, -1, std::numeric_limits<int>::min()}) {
+        QTest::ignoreMessage(QtWarningMsg, qPrintable(QStringLiteral("[IPLineEdit] setHeight: length %1 refused").arg(bad)));
+        e.setHeight(bad);
+    }
+    QCOMPARE(e.field(0)->font().pixelSize(), 20);
+    QCOMPARE(e.field(3)->maximumHeight(), 30);
+    QCOMPARE(e.field(0)->maximumWidth(), width);
+
+    // The row forwards its sizes: a refused font size is refused by both.
+    TypeIpAdjust row(nullptr, 0);
+    QTest::ignoreMessage(QtWarningMsg, "[CommonItemType] setContentFontSize: font size 600 refused");
+    QTest::ignoreMessage(QtWarningMsg, "[IPLineEdit] setFontSize: font size 600 refused");
+    row.setContentFontSize(600);
 }
 
 void TestIpEntry::stepFollowsTheLevel()

@@ -1,6 +1,7 @@
 // Layer rows, tags, picture rows and the layer preview: moving a layer with the knob
 // (levels, ends, signal order, leaving the edit), the preview's geometry, order and
 // highlight, and the refusals of bad input with their messages.
+#include "hostwindow.h"
 #include "leakcheck.h"
 
 #include <knob.h>
@@ -23,29 +24,9 @@ namespace {
 
 // A shown, active window holding one row, so that focus moves as on the panel.
 template <typename Row>
-struct Page
+struct Page : HostWindow::RowPage<Row>
 {
-    QWidget window;
-    Row* row = nullptr;
-    Page()
-    {
-        window.setFocusPolicy(Qt::StrongFocus);
-        auto* l = new QVBoxLayout(&window);
-        row = new Row(&window);
-        row->setItemTitleWidth(500);
-        row->setContentFontSize(20);
-        l->addWidget(row);
-        window.resize(520, 260);
-    }
-    bool start()
-    {
-        window.show();
-        QApplication::setActiveWindow(&window);
-        if (!QTest::qWaitForWindowActive(&window))
-            return false;
-        window.setFocus();
-        return true;
-    }
+    Page() : HostWindow::RowPage<Row>(500, QSize(520, 260)) {}
 };
 
 // Records the row's signals in one list, to check their order.

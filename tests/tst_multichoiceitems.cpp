@@ -3,6 +3,7 @@
 // of the knob.
 #include <lcdwidgets.h>
 
+#include "hostwindow.h"
 #include "leakcheck.h"
 #include "knob.h"
 
@@ -19,17 +20,7 @@ using namespace LCD::Widget;
 
 namespace {
 
-std::unique_ptr<QWidget> activeHost()
-{
-    auto host = std::make_unique<QWidget>();
-    host->setFocusPolicy(Qt::StrongFocus);
-    host->resize(760, 100);
-    host->show();
-    QApplication::setActiveWindow(host.get());
-    if (!QTest::qWaitForWindowActive(host.get()))
-        qWarning("host window not active");
-    return host;
-}
+std::unique_ptr<QWidget> activeHost() { return HostWindow::activeHost(QSize(760, 100), HostWindow::CanFocus); }
 
 QAbstractButton* buttonAt(MultiWidgetControl* c, int i)
 {
@@ -230,41 +221,18 @@ private slots:
     // sheet would pass it on to QFont).
     void refusedFontSizesStayWithTheRow()
     {
-        TypeItemMultiBtn buttons;
-        buttons.setContentFontSize(20);
-        QTest::ignoreMessage(QtDebugMsg, "MultiBtnControl::setContentFontSize: invalid font size 0");
-        buttons.setContentFontSize(0);
-        QCOMPARE(buttons.contentFontSize(), 20);
-
-        TypeItemMultiCheckBox boxes;
-        boxes.setContentFontSize(20);
-        QTest::ignoreMessage(QtDebugMsg, "MultiCheckBoxControl::setFontSize: invalid font size -5");
-        boxes.setContentFontSize(-5);
-        QCOMPARE(boxes.contentFontSize(), 20);
-
-        TypeItemMultiOperBtn pad(2);
-        pad.setContentFontSize(20);
-        QTest::ignoreMessage(QtDebugMsg, "MultiBtnWidget::setFontSize: invalid font size 0");
-        pad.setContentFontSize(0);
-        QCOMPARE(pad.contentFontSize(), 20);
-
-        TypeMultipleSelectBtn select(0, {{QStringLiteral("A"), QIcon(), 1}});
-        select.setContentFontSize(20);
-        QTest::ignoreMessage(QtDebugMsg, "Invalid button size: 100000");
-        select.setContentFontSize(100000);
-        QCOMPARE(select.contentFontSize(), 20);
-
-        TypeItemMultiSwitch switches;
-        switches.setContentFontSize(20);
-        QTest::ignoreMessage(QtDebugMsg, "MultiSwitchWidget::setContentFontSize: invalid font size 0");
-        switches.setContentFontSize(0);
-        QCOMPARE(switches.contentFontSize(), 20);
-
-        TypeItemEffectPicture effects;
-        effects.setContentFontSize(20);
-        QTest::ignoreMessage(QtDebugMsg, "EffectPictureWidget::setContentFontSize: invalid font size 0");
-        effects.setContentFontSize(0);
-        QCOMPARE(effects.contentFontSize(), 20);
+        auto refuses = [](CommonItemType&& row, int size, char const* message) {
+            row.setContentFontSize(20);
+            QTest::ignoreMessage(QtDebugMsg, message);
+            row.setContentFontSize(size);
+            QCOMPARE(row.contentFontSize(), 20);
+        };
+        refuses(TypeItemMultiBtn(), 0, "MultiBtnControl::setContentFontSize: invalid font size 0");
+        refuses(TypeItemMultiCheckBox(), -5, "MultiCheckBoxControl::setFontSize: invalid font size -5");
+        refuses(TypeItemMultiOperBtn(2), 0, "MultiBtnWidget::setFontSize: invalid font size 0");
+        refuses(TypeMultipleSelectBtn(0, {{QStringLiteral("A"), QIcon(), 1}}), 100000, "Invalid button size: 100000");
+        refuses(TypeItemMultiSwitch(), 0, "MultiSwitchWidget::setContentFontSize: invalid font size 0");
+        refuses(TypeItemEffectPicture(), 0, "EffectPictureWidget::setContentFontSize: invalid font size 0");
     }
 
     // A spacing past any panel would overflow the layout's sums (and hang it).

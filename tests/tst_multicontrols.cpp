@@ -3,6 +3,7 @@
 // Escape's restore, sizing; the check-box row's key table and setters.
 #include <lcdwidgets.h>
 
+#include "hostwindow.h"
 #include "leakcheck.h"
 #include "knob.h"
 
@@ -20,16 +21,7 @@ using namespace LCD::Widget;
 
 namespace {
 
-std::unique_ptr<QWidget> activeHost()
-{
-    auto host = std::make_unique<QWidget>();
-    host->resize(700, 80);
-    host->show();
-    QApplication::setActiveWindow(host.get());
-    if (!QTest::qWaitForWindowActive(host.get()))
-        qWarning("host window not active");
-    return host;
-}
+std::unique_ptr<QWidget> activeHost() { return HostWindow::activeHost(QSize(700, 80), HostWindow::NoFocus); }
 
 QList<QAbstractButton*> buttons(MultiWidgetControl const* c)
 {

@@ -1,6 +1,7 @@
 // The numeric item rows: the integer row's width rule, variants and step guards, the
 // signal sequences of knob edits ended by Escape and Enter, swallowed key releases,
 // and the float, slider, dual-value and spin-adjust rows.
+#include "editorpage.h"
 #include "leakcheck.h"
 
 #include <knob.h>
@@ -21,41 +22,15 @@ using namespace LCD::Widget;
 
 namespace {
 
+// A part a row hides is built on first use: absent counts as hidden.
+bool hiddenOrUnbuilt(QWidget const* w) { return !w || w->isHidden(); }
+
+
 // The host page: holds one row, takes the focus back after edits and records the
 // keys that reach it.
-class Page : public QWidget
+struct Page : EditorTest::Page
 {
-public:
-    Page()
-    {
-        setFocusPolicy(Qt::StrongFocus);
-        new QVBoxLayout(this);
-    }
-    template <typename Row>
-    Row* add(Row* row)
-    {
-        layout()->addWidget(row);
-        row->setItemTitleWidth(768);
-        row->setItemHeight(56);
-        row->setContentFontSize(20);
-        row->setItemTitle(QStringLiteral("Value"));
-        return row;
-    }
-    bool start()
-    {
-        show();
-        QApplication::setActiveWindow(this);
-        if (!QTest::qWaitForWindowActive(this))
-            return false;
-        setFocus();
-        return hasFocus();
-    }
-    QList<int> pressed;
-    int released = 0;
-
-protected:
-    void keyPressEvent(QKeyEvent* e) override { pressed << e->key(); }
-    void keyReleaseEvent(QKeyEvent*) override { ++released; }
+    Page() : EditorTest::Page(QSize()) {}
 };
 
 // Records the row's protocol signals in the order they come.
@@ -184,7 +159,7 @@ void TestNumericItems::intVariants()
     auto* s2 = multiple->findChild<NQSpinBox*>();
     QVERIFY(s2->property("isMultipleSpinBox").toBool());
     QCOMPARE(s2->alignment(), Qt::AlignLeft);
-    QVERIFY(multiple->findChild<QPushButton*>(QStringLiteral("itemRightIconButton"))->isHidden());
+    QVERIFY(hiddenOrUnbuilt(multiple->findChild<QPushButton*>(QStringLiteral("itemRightIconButton"))));
     QCOMPARE(multiple->getCommonWidgetType(), 2);
 
     auto* s3 = plain->findChild<NQSpinBox*>();
@@ -208,6 +183,23 @@ void TestNumericItems::intVariants()
 
     plain->setContentDisabled(true);
     QVERIFY(!s3->isEnabled());
+
+    // The label is built when first shown: with the text and the state set before.
+    auto* late = page.add(new TypeIntAdjust(SuffixNone, QuitKeepValue, &page, 3));
+    late->setLabelText(QStringLiteral("Off"));
+    late->setContentDisabled(true);
+    auto valueLabelOf = [](QWidget* row) -> QLabel* {
+        for (QLabel* l : row->findChildren<QLabel*>())
+            if (l->property("isLabelValueText").toBool())
+                return l;
+        return nullptr;
+    };
+    QVERIFY(!valueLabelOf(late));
+    late->setSpinBoxShow(false);
+    QLabel* label = valueLabelOf(late);
+    QVERIFY(label);
+    QCOMPARE(label->text(), QStringLiteral("Off"));
+    QVERIFY(!label->isEnabled());
 }
 
 void TestNumericItems::intSingleStepGuards()
@@ -371,7 +363,7 @@ void TestNumericItems::floatRow()
     auto* spin = row->findChild<NQDoubleSpinBox*>();
     QVERIFY(row->findChild<QPushButton*>(QStringLiteral("itemRightIconButton"))->property("isIconListEdit").toBool());
     QVERIFY(!row->findChild<QPushButton*>(QStringLiteral("itemRightIconButton"))->isHidden());
-    QVERIFY(wide->findChild<QPushButton*>(QStringLiteral("itemRightIconButton"))->isHidden());
+    QVERIFY(hiddenOrUnbuilt(wide->findChild<QPushButton*>(QStringLiteral("itemRightIconButton"))));
     QVERIFY(wide->findChild<NQDoubleSpinBox*>()->property("isMultipleSpinBox").toBool());
     QCOMPARE(wide->getCommonWidgetType(), 14);
     QCOMPARE(spin->width(), 60);
@@ -439,7 +431,7 @@ void TestNumericItems::sliderRow()
     QVERIFY(spin->property("isSliderSpinBoxInput").toBool());
     QVERIFY(slider->property("isIntAdjustSlider").toBool());
     QCOMPARE(slider->property("intAdjustSliderStatus").toString(), QStringLiteral("normal"));
-    QVERIFY(row->findChild<QPushButton*>(QStringLiteral("itemRightIconButton"))->isHidden());
+    QVERIFY(hiddenOrUnbuilt(row->findChild<QPushButton*>(QStringLiteral("itemRightIconButton"))));
     QCOMPARE(slider->focusPolicy(), Qt::NoFocus);
 
     row->setRange(0, 100);
@@ -546,7 +538,7 @@ void TestNumericItems::spinAdjustLayout()
     QCOMPARE(left->width(), 330);
     QCOMPARE(row->getWidgetRow(), 1);
     QCOMPARE(row->getTitleLabel()->width(), 0);
-    QVERIFY(row->findChild<QPushButton*>(QStringLiteral("itemRightIconButton"))->isHidden());
+    QVERIFY(hiddenOrUnbuilt(row->findChild<QPushButton*>(QStringLiteral("itemRightIconButton"))));
     QCOMPARE(left->styleSheet(), QStringLiteral("QFrame{border-radius:6px;}"));
     QCOMPARE(left->displayText(), QStringLiteral("---"));
     row->setLeftSpinContent(QStringLiteral("Wipe"));

@@ -4,6 +4,7 @@
 // backup be the input.
 #include <lcdwidgets.h>
 
+#include "editorpage.h"
 #include "leakcheck.h"
 #include "knob.h"
 
@@ -24,24 +25,10 @@ public:
     QSize size() const override { return {800, 480}; }
 };
 
-class Page : public QWidget
+// The host page over the panel's whole screen.
+struct Page : EditorTest::Page
 {
-public:
-    Page()
-    {
-        setFocusPolicy(Qt::StrongFocus);
-        setGeometry(0, 0, 800, 480);
-        new QVBoxLayout(this);
-    }
-    bool start()
-    {
-        show();
-        QApplication::setActiveWindow(this);
-        if (!QTest::qWaitForWindowActive(this))
-            return false;
-        setFocus();
-        return true;
-    }
+    Page() : EditorTest::Page(QSize(800, 480), true) {}
 };
 
 struct Recorder

@@ -3,6 +3,7 @@
 // signals in order, the row's edit protocol, and refused input.
 #include <lcdwidgets.h>
 
+#include "hostwindow.h"
 #include "leakcheck.h"
 #include "knob.h"
 
@@ -16,18 +17,7 @@ using namespace LCD::Widget;
 
 namespace {
 
-std::unique_ptr<QWidget> activeHost()
-{
-    auto host = std::make_unique<QWidget>();
-    host->setFocusPolicy(Qt::StrongFocus);
-    host->resize(760, 300);
-    host->show();
-    QApplication::setActiveWindow(host.get());
-    if (!QTest::qWaitForWindowActive(host.get()))
-        qWarning("host window not active");
-    host->setFocus();
-    return host;
-}
+std::unique_ptr<QWidget> activeHost() { return HostWindow::activeHost(QSize(760, 300), HostWindow::HasFocus); }
 
 QIcon swatch(QColor c)
 {

@@ -1,6 +1,7 @@
 // The plug-in contract: the information record, the host API handle before and
 // after pluginit, the lookup of the keyboard proxy, and translation through the
 // host's catalogue.
+#include "fakehost.h"
 #include "leakcheck.h"
 
 #include <dov/api.h>
@@ -16,28 +17,6 @@
 #include <string>
 
 namespace {
-
-struct Proxy : LCD::KeyboardProxy
-{
-    std::pair<int, int> tbarRead() override { return {7, 512}; }
-};
-
-struct HostApi : dov::IHostApi
-{
-    int version() const override { return 1; }
-    bool registerObject(char const* name, void* object) override
-    {
-        objects[name] = object;
-        return true;
-    }
-    void unregisterObject(char const* name) override { objects.erase(name); }
-    void* findObject(char const* name) override
-    {
-        auto it = objects.find(name);
-        return it == objects.end() ? nullptr : it->second;
-    }
-    std::map<std::string, void*> objects;
-};
 
 struct Record
 {
@@ -107,8 +86,9 @@ void TestPlugin::hostApiBeforeAndAfterPluginit()
     QCOMPARE(handle.reserved[1], nullptr);
     QCOMPARE(dov::api::object(LCD::KeyboardProxy::constants::OBJ_KEYBOARD_EVENT_NAME), nullptr);
 
-    HostApi host;
-    Proxy proxy;
+    FakeHost host;
+    FakeProxy proxy;
+    proxy.position = 512;
     host.registerObject(LCD::KeyboardProxy::constants::OBJ_KEYBOARD_EVENT_NAME, &proxy);
     pluginit(&host);
     QCOMPARE(&dov::api::get(), &handle);

@@ -3,6 +3,7 @@
 // sizes, and the expandable table's groups worked with the knob.
 #include <lcdwidgets.h>
 
+#include "hostwindow.h"
 #include "leakcheck.h"
 #include "knob.h"
 
@@ -18,18 +19,7 @@ using namespace LCD::Widget;
 
 namespace {
 
-std::unique_ptr<QWidget> activeHost()
-{
-    auto host = std::make_unique<QWidget>();
-    host->setFocusPolicy(Qt::StrongFocus);
-    host->resize(600, 300);
-    host->show();
-    QApplication::setActiveWindow(host.get());
-    if (!QTest::qWaitForWindowActive(host.get()))
-        qWarning("host window not active");
-    host->setFocus();
-    return host;
-}
+std::unique_ptr<QWidget> activeHost() { return HostWindow::activeHost(QSize(600, 300), HostWindow::HasFocus); }
 
 QString const kLong = QStringLiteral("Audience, balcony camera with the long lens on the tripod behind the last row");
 

@@ -3,6 +3,7 @@
 // knob's walk through a row of switches.
 #include <lcdwidgets.h>
 
+#include "hostwindow.h"
 #include "leakcheck.h"
 #include "knob.h"
 
@@ -16,16 +17,7 @@ using namespace LCD::Widget;
 namespace {
 
 // A shown, active top-level window: focus only lands in an active window.
-std::unique_ptr<QWidget> activeHost()
-{
-    auto host = std::make_unique<QWidget>();
-    host->resize(600, 80);
-    host->show();
-    QApplication::setActiveWindow(host.get());
-    if (!QTest::qWaitForWindowActive(host.get()))
-        qWarning("host window not active");
-    return host;
-}
+std::unique_ptr<QWidget> activeHost() { return HostWindow::activeHost(QSize(600, 80), HostWindow::NoFocus); }
 
 void click(QWidget* w, Qt::MouseButton button = Qt::LeftButton)
 {

@@ -1,6 +1,7 @@
 // T-bar calibration: the run of seven presses (begin, six readings, end) reading the
 // host's keyboard proxy, the button texts and the highlighted step, Escape in the
 // middle of a run, and a host without a proxy.
+#include "hostwindow.h"
 #include "leakcheck.h"
 
 #include <fakehost.h>
@@ -20,29 +21,9 @@ using namespace LCD::Widget;
 
 namespace {
 
-
-struct Page
+struct Page : HostWindow::RowPage<TypeItemTBarCalibration>
 {
-    QWidget window;
-    TypeItemTBarCalibration* row = nullptr;
-    Page()
-    {
-        window.setFocusPolicy(Qt::StrongFocus);
-        auto* l = new QVBoxLayout(&window);
-        row = new TypeItemTBarCalibration(&window);
-        row->setItemTitleWidth(700);
-        row->setContentFontSize(20);
-        l->addWidget(row);
-    }
-    bool start()
-    {
-        window.show();
-        QApplication::setActiveWindow(&window);
-        if (!QTest::qWaitForWindowActive(&window))
-            return false;
-        window.setFocus();
-        return true;
-    }
+    Page() : RowPage(700) {}
     QStringList operStates() const
     {
         QStringList out;

@@ -18,11 +18,16 @@ namespace EditorTest {
 class Page : public QWidget
 {
 public:
-    Page()
+    // `size`: the page's size (an invalid one: what its layout makes it);
+    // `atOrigin`: placed at the screen's top left, where the host's frame is.
+    explicit Page(QSize size = QSize(800, 400), bool atOrigin = false)
     {
         setFocusPolicy(Qt::StrongFocus);
         new QVBoxLayout(this);
-        resize(800, 400);
+        if (atOrigin)
+            setGeometry(QRect(QPoint(0, 0), size));
+        else if (size.isValid())
+            resize(size);
     }
     template <typename W>
     W* add(W* w)

@@ -306,12 +306,9 @@ ClassEntry multiBtnControl()
 ClassEntry multiCheckBoxControl()
 {
     using T = MultiCheckBoxControl;
-    ClassEntry e{"MultiCheckBoxControl", [](QWidget* page) {
-                     auto* w = new T(page);
-                     w->setCheckBoxData({{"CAM 1", 1}, {"CAM 2", 2}, {"CAM 3", 3}});
-                     addToPage(page, w);
-                     return w;
-                 }};
+    ClassEntry e = pageEntry<T>("MultiCheckBoxControl", [](T* w) {
+        w->setCheckBoxData({{"CAM 1", 1}, {"CAM 2", 2}, {"CAM 3", 3}});
+    });
     e.actions = {
         act<T>("setCheckBoxData", [](T* w, Rng& r) {
             if (w->widgetList().size() > 80)
@@ -466,14 +463,10 @@ ClassEntry multipleDialog()
 ClassEntry multiButtonControl()
 {
     using T = MultiButtonControl;
-    ClassEntry e{"MultiButtonControl", [](QWidget* page) {
-                     auto* w = new T(page);
-                     QVector<QPair<QString, int>> data{{"Slow", 0}, {"Medium", 1}, {"Fast", 2}};
-                     w->setBtnText(data);
-                     addToPage(page, w);
-                     w->setFocus();
-                     return w;
-                 }};
+    ClassEntry e = pageEntry<T>("MultiButtonControl", [](T* w) {
+        QVector<QPair<QString, int>> data{{"Slow", 0}, {"Medium", 1}, {"Fast", 2}};
+        w->setBtnText(data);
+    }, focusIt<T>);
     e.actions = {
         act<T>("setBtnText", [](T* w, Rng& r) {
             auto data = hostilePairs(r);
@@ -507,14 +500,9 @@ ClassEntry multiButtonControl()
 ClassEntry typeItemMultiBtn()
 {
     using T = TypeItemMultiBtn;
-    ClassEntry e{"TypeItemMultiBtn", [](QWidget* page) {
-                     auto* w = new T(page);
-                     w->setItemTitle(QStringLiteral("Format"));
-                     w->setBtnText({{"1080p", 0}, {"720p", 1}, {"4K", 2}});
-                     addToPage(page, w);
-                     return w;
-                 }};
-    addRowActions<T>(e.actions, OwnFontSize);
+    ClassEntry e = rowEntry<T>("TypeItemMultiBtn", QStringLiteral("Format"), OwnFontSize, [](T* w) {
+        w->setBtnText({{"1080p", 0}, {"720p", 1}, {"4K", 2}});
+    });
     auto& a = e.actions;
     a.push_back(act<T>("addItem", [](T* w, Rng& r) {
         if (w->count() < 60)
@@ -573,14 +561,9 @@ ClassEntry typeItemMultiBtn()
 ClassEntry typeItemMultiCheckBox()
 {
     using T = TypeItemMultiCheckBox;
-    ClassEntry e{"TypeItemMultiCheckBox", [](QWidget* page) {
-                     auto* w = new T(page);
-                     w->setItemTitle(QStringLiteral("Outputs"));
-                     w->setCheckBoxData({{"SDI", 1}, {"HDMI", 2}, {"USB", 3}});
-                     addToPage(page, w);
-                     return w;
-                 }};
-    addRowActions<T>(e.actions, OwnRightIcon | OwnFontSize);
+    ClassEntry e = rowEntry<T>("TypeItemMultiCheckBox", QStringLiteral("Outputs"), OwnRightIcon | OwnFontSize, [](T* w) {
+        w->setCheckBoxData({{"SDI", 1}, {"HDMI", 2}, {"USB", 3}});
+    });
     auto& a = e.actions;
     a.push_back(act<T>("setCheckBoxData", [](T* w, Rng& r) {
         if (w->checkBoxControl()->widgetList().size() > 80)
@@ -686,14 +669,10 @@ ClassEntry effectPictureWidget()
 ClassEntry typeItemEffectPicture()
 {
     using T = TypeItemEffectPicture;
-    ClassEntry e{"TypeItemEffectPicture", [](QWidget* page) {
-                     auto* w = new T(page);
-                     auto const choices = effectChoices(nullptr);
-                     w->setPictureData(QStringLiteral("Transitions"), choices.value(0).second, choices);
-                     addToPage(page, w);
-                     return w;
-                 }};
-    addRowActions<T>(e.actions, OwnFontSize);
+    ClassEntry e = rowEntry<T>("TypeItemEffectPicture", QString(), OwnFontSize, [](T* w) {
+        auto const choices = effectChoices(nullptr);
+        w->setPictureData(QStringLiteral("Transitions"), choices.value(0).second, choices);
+    });
     e.actions.push_back(act<T>("setPictureData", [](T* w, Rng& r) {
         auto const choices = effectChoices(&r);
         w->setPictureData(r.hostileText().left(500), r.coin() && !choices.isEmpty() ? choices.first().second : r.hostileText().left(200), choices);

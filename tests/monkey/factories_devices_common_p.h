@@ -133,6 +133,32 @@ inline void addToPage(QWidget* page, QWidget* w)
     w->show();
 }
 
+// An entry whose widget is built as a host builds it: `new T(page)`, set up by
+// `fill`, put on the page's layout, then `after` (both may be null).
+template <class T>
+ClassEntry pageEntry(QString name, std::function<void(T*)> fill = nullptr, std::function<void(T*)> after = nullptr)
+{
+    return ClassEntry{std::move(name), [fill, after](QWidget* page) {
+                          auto* w = new T(page);
+                          if (fill)
+                              fill(w);
+                          addToPage(page, w);
+                          if (after)
+                              after(w);
+                          return static_cast<QWidget*>(w);
+                      }};
+}
+
+// An `after` for pageEntry(): the widget takes the focus.
+template <class T>
+void focusIt(T* w)
+{
+    w->setFocus();
+}
+
+// The host rectangle of a build: the screen, empty every `every`-th time.
+inline QRect roundRect(int& round, int every = 4) { return round++ % every == every - 1 ? QRect() : screenRect(); }
+
 // The setters every item row has (from CommonItemType). The base class takes its
 // sizes as they come (a fault of the row base, worked around here): the base's own
 // size setters get sane values, and a row that overrides one (flags below) gets the
@@ -173,6 +199,22 @@ inline QStringList rowWarnings()
 {
     // The row base refuses sizes Qt cannot take with its own messages.
     return {QStringLiteral("^\\[item\\] .* : no editor to edit with$"), QStringLiteral("^\\[(CommonItemType|RollLabel)\\] .* refused$")};
+}
+
+// An item row's entry: built by pageEntry() with `title` (none when empty) before
+// `fill`, the row base's setters (`own` as in addRowActions) and its warnings.
+template <class T>
+ClassEntry rowEntry(QString name, QString title, int own, std::function<void(T*)> fill = nullptr)
+{
+    ClassEntry e = pageEntry<T>(std::move(name), [title, fill](T* w) {
+        if (!title.isEmpty())
+            w->setItemTitle(title);
+        if (fill)
+            fill(w);
+    });
+    addRowActions<T>(e.actions, own);
+    e.allowedWarnings = rowWarnings();
+    return e;
 }
 
 // What a dialog may log: its exec result, an empty host rectangle, a parent that

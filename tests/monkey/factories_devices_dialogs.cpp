@@ -214,7 +214,7 @@ ClassEntry reminderToastDialog()
     using T = ReminderToastDialog;
     ClassEntry e{"ReminderToastDialog", [](QWidget* page) {
                      static int round = 0;
-                     auto* w = new T(round++ % 4 == 3 ? QRect() : screenRect(), page);
+                     auto* w = new T(roundRect(round), page);
                      w->setDialogText(QStringLiteral("Saved"));
                      w->setDialgTipsTime(300);
                      execLater(w);
@@ -403,13 +403,10 @@ ClassEntry blockDialog()
 ClassEntry twelveSegmentBar()
 {
     using T = TwelveSegmentVerticalProgressBar;
-    ClassEntry e{"TwelveSegmentVerticalProgressBar", [](QWidget* page) {
-                     auto* w = new T(page);
-                     w->setRange(0, 100);
-                     w->setValue(40);
-                     addToPage(page, w);
-                     return w;
-                 }};
+    ClassEntry e = pageEntry<T>("TwelveSegmentVerticalProgressBar", [](T* w) {
+        w->setRange(0, 100);
+        w->setValue(40);
+    });
     e.actions = {
         act<T>("setRange", [](T* w, Rng& r) { w->setRange(r.hostileInt(), r.hostileInt()); }),
         act<T>("setValue", [](T* w, Rng& r) { w->setValue(r.hostileInt()); }),

@@ -58,12 +58,9 @@ QString hostileIp(Rng& r)
 ClassEntry ipLineEdit()
 {
     using T = IPLineEdit;
-    ClassEntry e{"IPLineEdit", [](QWidget* page) {
-                     auto* w = new T(page);
-                     w->setIpText(QStringLiteral("192.168.1.10"));
-                     addToPage(page, w);
-                     return w;
-                 }};
+    ClassEntry e = pageEntry<T>("IPLineEdit", [](T* w) {
+        w->setIpText(QStringLiteral("192.168.1.10"));
+    });
     e.actions = {
         act<T>("setIpText", [](T* w, Rng& r) { w->setIpText(hostileIp(r)); }),
         act<T>("isTextValid", [](T* w, Rng& r) { w->isTextValid(hostileIp(r)); }),
@@ -84,19 +81,17 @@ ClassEntry ipLineEdit()
         act<T>("slotFocusChanged", [](T* w, Rng& r) { w->slotFocusChanged(nullptr, r.coin() ? w->field(r.between(0, 3)) : nullptr); }),
     };
     e.allowedWarnings = QStringList{"^strIP: ", "^setIpText Your IP Address is Invalid!$",
-                         "^m_isEdit (true|false) ,index: -?\\d+ ,val: -?\\d+ ,step: -?\\d+ ,newVal: -?\\d+$"};
+                         "^m_isEdit (true|false) ,index: -?\\d+ ,val: -?\\d+ ,step: -?\\d+ ,newVal: -?\\d+$",
+                         "^\\[IPLineEdit\\] (setFontSize: font size|setHeight: length) -?\\d+ refused$"};
     return e;
 }
 
 ClassEntry ipEdit()
 {
     using T = IPEdit;
-    ClassEntry e{"IPEdit", [](QWidget* page) {
-                     auto* w = new T(page);
-                     w->setIpText(QStringLiteral("10.0.0.2"));
-                     addToPage(page, w);
-                     return w;
-                 }};
+    ClassEntry e = pageEntry<T>("IPEdit", [](T* w) {
+        w->setIpText(QStringLiteral("10.0.0.2"));
+    });
     e.actions = {
         act<T>("setIpText", [](T* w, Rng& r) { w->setIpText(hostileIp(r)); }),
         act<T>("clearText", [](T* w, Rng&) { w->clearText(); }),
@@ -136,7 +131,7 @@ ClassEntry numberPad()
     using T = NumberPad;
     ClassEntry e{"NumberPad", [](QWidget* page) {
                      static int round = 0;
-                     auto* w = new T(round++ % 3 == 2 ? QRect() : screenRect(), page);
+                     auto* w = new T(roundRect(round, 3), page);
                      w->setLabelText(QStringLiteral("IP address"));
                      w->setLineEditText(QStringLiteral("192.168.1.1"));
                      addToPage(page, w);
@@ -174,17 +169,9 @@ NetworkInfo hostileNetwork(Rng& r)
 ClassEntry networkSettings()
 {
     using T = NetworkSettings;
-    ClassEntry e{"NetworkSettings", [](QWidget* page) {
-                     auto* w = new T(page);
-                     NetworkInfo info;
-                     info.ip = "192.168.1.20";
-                     info.mask = "255.255.255.0";
-                     info.gateway = "192.168.1.1";
-                     info.mac = "00:11:22:33:44:55";
-                     w->setNetworkInfo(info);
-                     addToPage(page, w);
-                     return w;
-                 }};
+    ClassEntry e = pageEntry<T>("NetworkSettings", [](T* w) {
+        w->setNetworkInfo(NetworkInfo{0, "192.168.1.20", "255.255.255.0", "192.168.1.1", "00:11:22:33:44:55"});
+    });
     e.actions = {
         act<T>("setNetworkInfo", [](T* w, Rng& r) { w->setNetworkInfo(hostileNetwork(r)); }),
         act<T>("retranslateUi", [](T* w, Rng&) { w->retranslateUi(); }),
@@ -207,17 +194,7 @@ SwitcherInfo hostileSwitcher(Rng& r)
 ClassEntry switcherItem()
 {
     using T = SwitcherItem;
-    ClassEntry e{"SwitcherItem", [](QWidget* page) {
-                     auto* w = new T(page);
-                     SwitcherInfo info;
-                     info.model = "Mini";
-                     info.name = "Studio";
-                     info.ip = "10.0.0.2";
-                     info.sn = "SN1";
-                     w->setSwitcherInfo(info);
-                     addToPage(page, w);
-                     return w;
-                 }};
+    ClassEntry e = pageEntry<T>("SwitcherItem", [](T* w) { w->setSwitcherInfo(SwitcherInfo{"Mini", "Studio", "10.0.0.2", "SN1"}); });
     e.actions = {
         act<T>("setSwitcherInfo", [](T* w, Rng& r) { w->setSwitcherInfo(hostileSwitcher(r)); }),
         act<T>("setOnline", [](T* w, Rng& r) { w->setOnline(r.coin()); }),
@@ -241,18 +218,7 @@ QStringList switcherWarnings()
 ClassEntry switcherSelect()
 {
     using T = SwitcherSelect;
-    ClassEntry e{"SwitcherSelect", [](QWidget* page) {
-                     auto* w = new T(page);
-                     SwitcherInfo a;
-                     a.model = "Mini";
-                     a.name = "Studio A";
-                     a.ip = "10.0.0.2";
-                     a.sn = "SN1";
-                     a.online = true;
-                     w->addSwitcher(a);
-                     addToPage(page, w);
-                     return w;
-                 }};
+    ClassEntry e = pageEntry<T>("SwitcherSelect", [](T* w) { w->addSwitcher(SwitcherInfo{"Mini", "Studio A", "10.0.0.2", "SN1", true}); });
     e.actions = {
         act<T>("addSwitcher", [](T* w, Rng& r) { w->addSwitcher(hostileSwitcher(r)); }),
         act<T>("addSwitchers", [](T* w, Rng& r) {
@@ -283,11 +249,7 @@ ClassEntry switcherSelect()
 ClassEntry addDevice()
 {
     using T = AddDevice;
-    ClassEntry e{"AddDevice", [](QWidget* page) {
-                     auto* w = new T(page);
-                     addToPage(page, w);
-                     return w;
-                 }};
+    ClassEntry e = pageEntry<T>("AddDevice");
     e.actions = {
         act<T>("resetData", [](T* w, Rng&) { w->resetData(); }),
         act<T>("setDeviceName", [](T* w, Rng& r) { w->setDeviceName(r.hostileText().left(5000).toStdString()); }),
@@ -304,18 +266,12 @@ ClassEntry addDevice()
 ClassEntry typeItemTBarCalibration()
 {
     using T = TypeItemTBarCalibration;
-    ClassEntry e{"TypeItemTBarCalibration", [](QWidget* page) {
-                     auto* w = new T(page);
-                     w->setItemTitle(QStringLiteral("T-bar calibration"));
-                     addToPage(page, w);
-                     return w;
-                 }};
-    addRowActions<T>(e.actions, OwnFontSize);
+    ClassEntry e = rowEntry<T>("TypeItemTBarCalibration", QStringLiteral("T-bar calibration"), OwnFontSize);
     e.actions.push_back(act<T>("retranslateUi", [](T* w, Rng&) { w->retranslateUi(); }));
     e.actions.push_back(act<T>("getTBarValue", [](T* w, Rng&) { w->getTBarValue(); }));
     e.actions.push_back(act<T>("slotBtnClicked", [](T* w, Rng&) { w->slotBtnClicked(); }));
     e.actions.push_back(act<T>("stepLabel", [](T* w, Rng& r) { w->stepLabel(r.hostileInt()); }));
-    e.allowedWarnings = rowWarnings() << "^\\[TypeItemTBarCalibration\\] setContentFontSize: size -?\\d+ refused$"
+    e.allowedWarnings << "^\\[TypeItemTBarCalibration\\] setContentFontSize: size -?\\d+ refused$"
                                       << "^_pKeyBoard is nullptr$" << "^_pKeyBoard->tbarRead\\(\\)\\.second -?\\d+$";
     return e;
 }
@@ -355,13 +311,9 @@ QStringList dialWarnings()
 ClassEntry dashBoardWidget()
 {
     using T = DashBoardWidget;
-    ClassEntry e{"DashBoardWidget", [](QWidget* page) {
-                     auto* w = new T(page);
-                     w->setItemSize(QSize(120, 120));
-                     addToPage(page, w);
-                     w->setFocus();
-                     return w;
-                 }};
+    ClassEntry e = pageEntry<T>("DashBoardWidget", [](T* w) {
+        w->setItemSize(QSize(120, 120));
+    }, focusIt<T>);
     e.actions = {
         act<T>("setMin", [](T* w, Rng& r) { w->setMin(r.hostileDouble()); }),
         act<T>("setmax", [](T* w, Rng& r) { w->setmax(r.hostileDouble()); }),
@@ -416,22 +368,18 @@ ClassEntry dashBoardLabel()
 ClassEntry typeItemDashBoard()
 {
     using T = TypeItemDashBoard;
-    ClassEntry e{"TypeItemDashBoard", [](QWidget* page) {
-                     auto* w = new T(page);
-                     QMap<int, DashBoardData> items;
-                     DashBoardData gain;
-                     gain.text = QStringLiteral("Gain");
-                     items.insert(1, gain);
-                     DashBoardData pan;
-                     pan.min = -50;
-                     pan.max = 50;
-                     pan.text = QStringLiteral("Pan");
-                     items.insert(2, pan);
-                     w->setListItems(items);
-                     addToPage(page, w);
-                     return w;
-                 }};
-    addRowActions<T>(e.actions, OwnFontSize);
+    ClassEntry e = rowEntry<T>("TypeItemDashBoard", QString(), OwnFontSize, [](T* w) {
+        QMap<int, DashBoardData> items;
+        DashBoardData gain;
+        gain.text = QStringLiteral("Gain");
+        items.insert(1, gain);
+        DashBoardData pan;
+        pan.min = -50;
+        pan.max = 50;
+        pan.text = QStringLiteral("Pan");
+        items.insert(2, pan);
+        w->setListItems(items);
+    });
     e.actions.push_back(act<T>("setListItems", [](T* w, Rng& r) {
         QMap<int, DashBoardData> items;
         int const n = r.chance(0.2) ? 0 : r.between(1, r.chance(0.05) ? 30 : 4);
@@ -469,7 +417,7 @@ ClassEntry typeItemDashBoard()
             w->setCurrentSelected(w->dashBoard(r.between(0, 3)));
         }
     }));
-    e.allowedWarnings = rowWarnings() + dialWarnings() + QStringList{
+    e.allowedWarnings += dialWarnings() + QStringList{
         "^\\[TypeItemDashBoard\\] setCurrentValue: no dial with key -?\\d+$",
         "^\\[TypeItemDashBoard\\] setCurrentValue: not a number for key -?\\d+ : ",
         "^\\[TypeItemDashBoard\\] getCurrentValue: no dial with key -?\\d+$",
@@ -572,13 +520,10 @@ ClassEntry drawGraphicsScene()
 ClassEntry drawGraphicsView()
 {
     using T = DrawGraphicsView;
-    ClassEntry e{"DrawGraphicsView", [](QWidget* page) {
-                     auto* w = new T(page);
-                     w->setItemInfo({{"Picture", 0, 0, 1920, 1080}});
-                     w->setCropRectInfo({{true, {"Crop", 100, 100, 800, 450}}});
-                     addToPage(page, w);
-                     return w;
-                 }};
+    ClassEntry e = pageEntry<T>("DrawGraphicsView", [](T* w) {
+        w->setItemInfo({{"Picture", 0, 0, 1920, 1080}});
+        w->setCropRectInfo({{true, {"Crop", 100, 100, 800, 450}}});
+    });
     e.actions = {
         act<T>("setItemInfo", [](T* w, Rng& r) { w->setItemInfo(hostileItemInfos(r)); }),
         act<T>("setCropRectInfo", [](T* w, Rng& r) { w->setCropRectInfo(hostileCropInfos(r)); }),
@@ -593,19 +538,15 @@ ClassEntry drawGraphicsView()
 ClassEntry typeDrawCropWidget()
 {
     using T = TypeDrawCropWidget;
-    ClassEntry e{"TypeDrawCropWidget", [](QWidget* page) {
-                     auto* w = new T(page);
-                     w->setItemInfo({{"Picture", 0, 0, 1920, 1080}});
-                     w->setCropRectInfo({{true, {"Crop", 100, 100, 800, 450}}});
-                     addToPage(page, w);
-                     return w;
-                 }};
-    addRowActions<T>(e.actions, OwnFontSize);
+    ClassEntry e = rowEntry<T>("TypeDrawCropWidget", QString(), OwnFontSize, [](T* w) {
+        w->setItemInfo({{"Picture", 0, 0, 1920, 1080}});
+        w->setCropRectInfo({{true, {"Crop", 100, 100, 800, 450}}});
+    });
     e.actions.push_back(act<T>("setItemInfo", [](T* w, Rng& r) { w->setItemInfo(hostileItemInfos(r)); }));
     e.actions.push_back(act<T>("setCropRectInfo", [](T* w, Rng& r) { w->setCropRectInfo(hostileCropInfos(r)); }));
     e.actions.push_back(act<T>("setCropViewHeight", [](T* w, Rng& r) { w->setCropViewHeight(r.hostileSize()); }));
     e.actions.push_back(Action{"render", [](QWidget* w, Rng&) { renderShown(w); }});
-    e.allowedWarnings = rowWarnings() + drawWarnings() + QStringList{
+    e.allowedWarnings += drawWarnings() + QStringList{
         "^\\[TypeDrawCropWidget\\] setCropViewHeight: height refused: -?\\d+$",
         "^\\[TypeDrawCropWidget\\] setContentFontSize: size refused: -?\\d+$"};
     return e;
@@ -618,7 +559,7 @@ ClassEntry textViewDialog()
     using T = TextViewDialog;
     ClassEntry e{"TextViewDialog", [](QWidget* page) {
                      static int round = 0;
-                     auto* w = new T(round++ % 4 == 3 ? QRect() : screenRect(), page);
+                     auto* w = new T(roundRect(round), page);
                      w->setTitle(QStringLiteral("Licences"));
                      w->setText(QString(40, QLatin1Char('x')).append(QStringLiteral("\nline\n")).repeated(40));
                      execLater(w);
@@ -652,7 +593,7 @@ ClassEntry mutilProgressBarDialog()
     using T = MutilProgressBarDialog;
     ClassEntry e{"MutilProgressBarDialog", [](QWidget* page) {
                      static int round = 0;
-                     auto* w = new T(round++ % 4 == 3 ? QRect() : screenRect(), page);
+                     auto* w = new T(roundRect(round), page);
                      w->setTitle(QStringLiteral("Updating devices"));
                      w->setTasks({QStringLiteral("Panel"), QStringLiteral("Switcher"), QStringLiteral("Camera")});
                      execLater(w);
@@ -720,7 +661,7 @@ ClassEntry lockPanel()
     using T = LockPanel;
     ClassEntry e{"LockPanel", [](QWidget*) {
                      static int round = 0;
-                     auto* w = new T(round++ % 4 == 3 ? QRect() : screenRect(), nullptr);
+                     auto* w = new T(roundRect(round), nullptr);
                      w->setUnlockHoldTime(50);
                      w->setReminderTime(200);
                      w->lock();
@@ -745,7 +686,7 @@ ClassEntry lockReminderDialog()
     using T = LockReminderDialog;
     ClassEntry e{"LockReminderDialog", [](QWidget* page) {
                      static int round = 0;
-                     auto* w = new T(round++ % 4 == 3 ? QRect() : screenRect(), page);
+                     auto* w = new T(roundRect(round), page);
                      w->setText(LockReminderDialog::unlockText(Qt::Key_Escape, 2000));
                      w->setDisplayTime(300);
                      execLater(w);
@@ -778,15 +719,11 @@ QString aboutText(Rng& r) { return r.hostileText().left(2000); }
 ClassEntry aboutPage()
 {
     using T = AboutPage;
-    ClassEntry e{"AboutPage", [](QWidget* page) {
-                     auto* w = new T(page);
-                     w->setModel(QStringLiteral("Mini Pro"));
-                     w->setSoftwareVersion(QStringLiteral("1.4.2"));
-                     w->setSerialNumber(QStringLiteral("SN0001"));
-                     addToPage(page, w);
-                     w->setFocus();
-                     return w;
-                 }};
+    ClassEntry e = pageEntry<T>("AboutPage", [](T* w) {
+        w->setModel(QStringLiteral("Mini Pro"));
+        w->setSoftwareVersion(QStringLiteral("1.4.2"));
+        w->setSerialNumber(QStringLiteral("SN0001"));
+    }, focusIt<T>);
     e.actions = {
         act<T>("setModel", [](T* w, Rng& r) { w->setModel(aboutText(r)); }),
         act<T>("setSoftwareVersion", [](T* w, Rng& r) { w->setSoftwareVersion(aboutText(r)); }),
@@ -827,21 +764,16 @@ ClassEntry aboutPage()
 ClassEntry typeZOrderItemMore()
 {
     using T = TypeZOrderItemMore;
-    ClassEntry e{"TypeZOrderItemMore", [](QWidget* page) {
-                     auto* w = new T(page);
-                     w->setItemTitle(QStringLiteral("Key 1"));
-                     w->setLayerCount(4);
-                     w->setZOrder(2);
-                     addToPage(page, w);
-                     return w;
-                 }};
-    addRowActions<T>(e.actions, OwnFontSize);
+    ClassEntry e = rowEntry<T>("TypeZOrderItemMore", QStringLiteral("Key 1"), OwnFontSize, [](T* w) {
+        w->setLayerCount(4);
+        w->setZOrder(2);
+    });
     e.actions.push_back(act<T>("setLayerCount", [](T* w, Rng& r) { w->setLayerCount(r.hostileInt()); }));
     e.actions.push_back(act<T>("setZOrder", [](T* w, Rng& r) { w->setZOrder(r.hostileIndex(w->layerCount())); }));
     e.actions.push_back(act<T>("setLabelValue", [](T* w, Rng& r) {
         w->setLabelValue(r.coin() ? QVariant(r.hostileIndex(w->layerCount())) : QVariant(r.hostileText()), r.hostileInt());
     }));
-    e.allowedWarnings = rowWarnings() + QStringList{"^\\[TypeZOrderItemMore\\] invalid layer count: -?\\d+$",
+    e.allowedWarnings += QStringList{"^\\[TypeZOrderItemMore\\] invalid layer count: -?\\d+$",
                                                     "^\\[TypeZOrderItemMore\\] z-order out of range: ", "^Invalid font size: -?\\d+$"};
     return e;
 }
@@ -849,14 +781,9 @@ ClassEntry typeZOrderItemMore()
 ClassEntry typeFrameTag()
 {
     using T = TypeFrameTag;
-    ClassEntry e{"TypeFrameTag", [](QWidget* page) {
-                     auto* w = new T(page);
-                     w->setItemTitle(QStringLiteral("Camera 1"));
-                     w->setTag(QStringLiteral("PGM"), TypeFrameTag::Program);
-                     addToPage(page, w);
-                     return w;
-                 }};
-    addRowActions<T>(e.actions, OwnFontSize);
+    ClassEntry e = rowEntry<T>("TypeFrameTag", QStringLiteral("Camera 1"), OwnFontSize, [](T* w) {
+        w->setTag(QStringLiteral("PGM"), TypeFrameTag::Program);
+    });
     e.actions.push_back(act<T>("setTag", [](T* w, Rng& r) { w->setTag(r.hostileText(), TypeFrameTag::Kind(r.between(0, 7))); }));
     e.actions.push_back(act<T>("setTagText", [](T* w, Rng& r) { w->setTagText(r.hostileText()); }));
     e.actions.push_back(act<T>("setTagKind", [](T* w, Rng& r) { w->setTagKind(TypeFrameTag::Kind(r.between(0, 7))); }));
@@ -864,7 +791,7 @@ ClassEntry typeFrameTag()
     e.actions.push_back(act<T>("setLabelValue", [](T* w, Rng& r) {
         w->setLabelValue(r.coin() ? QVariant(r.hostileText()) : QVariant(r.hostileInt()), r.hostileInt());
     }));
-    e.allowedWarnings = rowWarnings() + QStringList{"^\\[TypeFrameTag\\] unknown tag kind: -?\\d+$",
+    e.allowedWarnings += QStringList{"^\\[TypeFrameTag\\] unknown tag kind: -?\\d+$",
                                                     "^\\[TypeFrameTag\\] invalid tag colour$", "^Invalid font size: -?\\d+$"};
     return e;
 }
@@ -872,14 +799,9 @@ ClassEntry typeFrameTag()
 ClassEntry typeGraphicWidget()
 {
     using T = TypeGraphicWidget;
-    ClassEntry e{"TypeGraphicWidget", [](QWidget* page) {
-                     auto* w = new T(page);
-                     w->setItemTitle(QStringLiteral("Logo"));
-                     w->setPicture(QStringLiteral("./../share/themes/default/images/effect_mix.png"));
-                     addToPage(page, w);
-                     return w;
-                 }};
-    addRowActions<T>(e.actions, OwnNone);
+    ClassEntry e = rowEntry<T>("TypeGraphicWidget", QStringLiteral("Logo"), OwnNone, [](T* w) {
+        w->setPicture(QStringLiteral("./../share/themes/default/images/effect_mix.png"));
+    });
     e.actions.push_back(act<T>("setPicture", [](T* w, Rng& r) {
         static std::vector<QString> const paths{"./../share/themes/default/images/effect_mix.png",
                                                 "./../share/themes/default/images/effect_box.gif", "", "/no/such.png", "/"};
@@ -899,7 +821,7 @@ ClassEntry typeGraphicWidget()
     e.actions.push_back(act<T>("setLabelValue", [](T* w, Rng& r) {
         w->setLabelValue(r.coin() ? QVariant(r.hostileText().left(300)) : QVariant(), r.hostileInt());
     }));
-    e.allowedWarnings = rowWarnings() + QStringList{"^\\[TypeGraphicWidget\\] picture not found: ",
+    e.allowedWarnings += QStringList{"^\\[TypeGraphicWidget\\] picture not found: ",
                                                     "^\\[TypeGraphicWidget\\] null picture$",
                                                     "^\\[TypeGraphicWidget\\] invalid picture height: -?\\d+$"};
     return e;
@@ -952,13 +874,10 @@ ItemDataInfoArray someLayers()
 ClassEntry previewWidget()
 {
     using T = PreviewWidget;
-    ClassEntry e{"PreviewWidget", [](QWidget* page) {
-                     auto* w = new T(page);
-                     w->setCanvasSize(QSize(1920, 1080));
-                     w->setLayers(someLayers());
-                     addToPage(page, w);
-                     return w;
-                 }};
+    ClassEntry e = pageEntry<T>("PreviewWidget", [](T* w) {
+        w->setCanvasSize(QSize(1920, 1080));
+        w->setLayers(someLayers());
+    });
     addPreviewActions<T>(e.actions, [](T* w) { return w; });
     e.allowedWarnings = previewWarnings();
     return e;
@@ -967,20 +886,16 @@ ClassEntry previewWidget()
 ClassEntry typePreviewWidget()
 {
     using T = TypePreviewWidget;
-    ClassEntry e{"TypePreviewWidget", [](QWidget* page) {
-                     auto* w = new T(page);
-                     w->preview()->setCanvasSize(QSize(1920, 1080));
-                     w->preview()->setLayers(someLayers());
-                     addToPage(page, w);
-                     return w;
-                 }};
-    addRowActions<T>(e.actions, OwnFontSize);
+    ClassEntry e = rowEntry<T>("TypePreviewWidget", QString(), OwnFontSize, [](T* w) {
+        w->preview()->setCanvasSize(QSize(1920, 1080));
+        w->preview()->setLayers(someLayers());
+    });
     addPreviewActions<T>(e.actions, [](T* w) { return w->preview(); });
     e.actions.push_back(act<T>("setPreviewHeight", [](T* w, Rng& r) { w->setPreviewHeight(r.hostileSize()); }));
     e.actions.push_back(act<T>("setLabelValue", [](T* w, Rng& r) {
         w->setLabelValue(r.coin() ? QVariant(r.hostileIndex(w->preview()->layerCount())) : QVariant(r.hostileText()), r.hostileInt());
     }));
-    e.allowedWarnings = rowWarnings() + previewWarnings() + QStringList{
+    e.allowedWarnings += previewWarnings() + QStringList{
         "^\\[TypePreviewWidget\\] invalid preview height: -?\\d+$", "^\\[TypePreviewWidget\\] no layers to choose from$",
         "^\\[TypePreviewWidget\\] setLabelValue: "};
     return e;
@@ -1026,12 +941,7 @@ void addRightFrameActions(std::vector<Action>& a, std::function<FactoryTestRight
 ClassEntry factoryTestFrame()
 {
     using T = FactoryTestFrame;
-    ClassEntry e{"FactoryTestFrame", [](QWidget* page) {
-                     auto* w = new T(page);
-                     addToPage(page, w);
-                     w->setFocus();
-                     return w;
-                 }};
+    ClassEntry e = pageEntry<T>("FactoryTestFrame", nullptr, focusIt<T>);
     e.actions = {
         act<T>("startTest", [](T* w, Rng& r) { w->startTest(r.chance(0.7) ? r.between(0, 4) : r.hostileInt()); }),
         act<T>("result", [](T* w, Rng& r) { w->result(r.hostileInt()); }),
@@ -1047,12 +957,7 @@ ClassEntry factoryTestFrame()
 ClassEntry factoryTestLeftFrame()
 {
     using T = FactoryTestLeftFrame;
-    ClassEntry e{"FactoryTestLeftFrame", [](QWidget* page) {
-                     auto* w = new T(page);
-                     addToPage(page, w);
-                     w->setFocus();
-                     return w;
-                 }};
+    ClassEntry e = pageEntry<T>("FactoryTestLeftFrame", nullptr, focusIt<T>);
     e.actions = {
         act<T>("setCurrentTest", [](T* w, Rng& r) { w->setCurrentTest(r.hostileIndex(kFactoryTestCount)); }),
         act<T>("setResult", [](T* w, Rng& r) { w->setResult(r.hostileIndex(kFactoryTestCount), hostileResult(r)); }),
@@ -1068,13 +973,10 @@ ClassEntry factoryTestLeftFrame()
 ClassEntry factoryTestRightFrame()
 {
     using T = FactoryTestRightFrame;
-    ClassEntry e{"FactoryTestRightFrame", [](QWidget* page) {
-                     auto* w = new T(page);
-                     addToPage(page, w);
-                     w->setFocus();
-                     w->startTest(int(FactoryTestItem::Knob));
-                     return w;
-                 }};
+    ClassEntry e = pageEntry<T>("FactoryTestRightFrame", nullptr, [](T* w) {
+        w->setFocus();
+        w->startTest(int(FactoryTestItem::Knob));
+    });
     addRightFrameActions<T>(e.actions, [](T* w) { return w; });
     e.allowedWarnings = factoryWarnings();
     return e;

@@ -70,5 +70,36 @@ int firstChoice(int count, At at)
     return -1;
 }
 
+// The children of a grouped control's list (pairs of a kind and a widget): calls
+// f(w) for each that is a W.
+template <class W, class List, class F>
+void forEachChoice(List const& list, F f)
+{
+    for (auto const& pair : list)
+        if (auto* w = qobject_cast<W*>(pair.second))
+            f(w);
+}
+
+// The first child of the list that is a W and carries `value`; null when none does.
+template <class W, class List>
+W* choiceWithValue(List const& list, int value)
+{
+    for (auto const& pair : list) {
+        auto* w = qobject_cast<W*>(pair.second);
+        if (w && choiceData(w, kChoiceValueId).toInt() == value)
+            return w;
+    }
+    return nullptr;
+}
+
+// Gives the focus to the list's first child that can take it.
+template <class List>
+void focusFirstChoice(List const& list)
+{
+    int const first = firstChoice(list.size(), [&list](int i) { return list.at(i).second; });
+    if (first >= 0)
+        list.at(first).second->setFocus(Qt::OtherFocusReason);
+}
+
 } // namespace Widget
 } // namespace LCD

@@ -1,5 +1,6 @@
 #include "commonitemtype.h"
 #include "inputcheck_p.h"
+#include "layoutslot_p.h"
 
 #include "displaytext_p.h"
 
@@ -68,7 +69,9 @@ struct LCDWIDGETS_HIDDEN CommonItemType::Impl
     QPushButton* rightIconButton = nullptr;
     QLabel* underLine = nullptr;
     QVBoxLayout* titleColumn = nullptr;
-    QSpacerItem* leftIconSlot = nullptr; // holds position 0 until the icon area exists
+    QSpacerItem* leftIconSlot = nullptr;  // holds position 0 until the icon area exists
+    QSpacerItem* rightIconSlot = nullptr; // holds position 3 until the right icon exists
+    bool rightIconHidden = false;         // the right icon's visibility, built or not
 
     // The left icon area (button and caption) and the second title are built on
     // first use: most rows never show them. What was set before lives here.
@@ -108,8 +111,7 @@ void CommonItemType::createWidgets()
 
     // Position 0: left icon with its caption underneath, built on first use; until
     // then an empty slot keeps the positions of the other parts.
-    d->leftIconSlot = new QSpacerItem(0, 0, QSizePolicy::Fixed, QSizePolicy::Fixed);
-    d->rowLayout->addItem(d->leftIconSlot);
+    d->leftIconSlot = addLayoutSlot(d->rowLayout);
 
     // Position 1: title column (the second title joins it on first use).
     d->titleColumn = new QVBoxLayout;
@@ -127,11 +129,9 @@ void CommonItemType::createWidgets()
     d->dynamicLayout->setContentsMargins(0, 0, 0, 0);
     d->rowLayout->addWidget(d->dynamicFrame);
 
-    // Position 3: right icon.
-    d->rightIconButton = new QPushButton(this);
-    d->rightIconButton->setObjectName(QStringLiteral("itemRightIconButton"));
-    d->rightIconButton->setFocusPolicy(Qt::NoFocus);
-    d->rowLayout->addWidget(d->rightIconButton);
+    // Position 3: right icon. Most rows hide it in their constructor: it is built
+    // when first reached, or when the row is polished while it is still wanted.
+    d->rightIconSlot = addLayoutSlot(d->rowLayout);
 
     d->frameLayout->addStretch();
     d->frameLayout->addLayout(d->rowLayout);
@@ -183,12 +183,32 @@ void CommonItemType::ensureLeftIcon() const
     iconColumn->addLayout(captionRow);
     iconColumn->addStretch();
     d->leftIconArea->hide(); // shown together with its button
-    int const slot = d->rowLayout->indexOf(d->leftIconSlot);
-    int const stretch = d->rowLayout->stretch(slot);
-    d->rowLayout->removeItem(d->leftIconSlot);
-    delete d->leftIconSlot;
-    d->leftIconSlot = nullptr;
-    d->rowLayout->insertWidget(slot, d->leftIconArea, stretch);
+    fillLayoutSlot(d->rowLayout, d->leftIconSlot, d->leftIconArea);
+}
+
+void CommonItemType::ensureRightIcon() const
+{
+    if (d->rightIconButton)
+        return;
+    d->rightIconButton = new QPushButton(const_cast<CommonItemType*>(this));
+    d->rightIconButton->setObjectName(QStringLiteral("itemRightIconButton"));
+    d->rightIconButton->setFocusPolicy(Qt::NoFocus);
+    d->rightIconButton->setEnabled(d->iconsEnabled);
+    // As if built with the row: shown with it unless hidden; a row already on screen
+    // shows a new child only when told to.
+    if (d->rightIconHidden)
+        d->rightIconButton->hide();
+    else if (isVisible())
+        d->rightIconButton->show();
+    fillLayoutSlot(d->rowLayout, d->rightIconSlot, d->rightIconButton);
+}
+
+bool CommonItemType::event(QEvent* event)
+{
+    // Polished before its children: a right icon built here is polished with them.
+    if (event->type() == QEvent::Polish && !d->rightIconHidden)
+        ensureRightIcon();
+    return QFrame::event(event);
 }
 
 void CommonItemType::ensureSecondTitle() const
@@ -203,6 +223,15 @@ void CommonItemType::ensureSecondTitle() const
     d->titleColumn->addWidget(d->secondTitleLabel);
 }
 
+void CommonItemType::setTitleWidth(int width)
+{
+    d->titleLabel->setWidth(width);
+    // The title sits two layouts down: a host that asks for the row's size hint
+    // right away (to fit it to its page) must see the new width, not a cached one.
+    d->titleColumn->invalidate();
+    d->rowLayout->invalidate();
+}
+
 // ---------------------------------------------------------------------------
 // Virtual operations
 
@@ -214,7 +243,7 @@ int CommonItemType::getWidgetRow()
     int w = titleWidth(d->itemWidth, dyn, d->contentFontSize);
     if (!d->itemTitle.isEmpty())
         w = widgetWidth(qMax<qint64>(w, 4 * f));
-    d->titleLabel->setWidth(w);
+    setTitleWidth(w);
     d->titleLabel->setItemName(d->itemTitle);
     d->titleLabel->setTextLabel(d->itemTitle, false);
     d->dynamicMaxWidth = static_cast<int>(
@@ -240,6 +269,7 @@ void CommonItemType::setRightIconSize(QSize size)
 {
     if (!sizeOk("CommonItemType", "setRightIconSize", size))
         return;
+    ensureRightIcon();
     d->rightIconButton->setFixedSize(size);
 }
 
@@ -311,7 +341,7 @@ void CommonItemType::setItemTitleRoll(QString const& text, bool roll)
     int const w = titleWidth(d->itemWidth, dyn, d->contentFontSize);
 
     d->itemTitle = text;
-    d->titleLabel->setWidth(w);
+    setTitleWidth(w);
     d->titleLabel->setItemName(text);
     d->titleLabel->setTextLabel(text, roll);
 
@@ -408,7 +438,14 @@ void CommonItemType::setLeftIconButtonHide(bool hide)
     d->leftIconArea->setHidden(hide);
 }
 
-void CommonItemType::setRightIconButtonHide(bool hide) { d->rightIconButton->setHidden(hide); }
+void CommonItemType::setRightIconButtonHide(bool hide)
+{
+    d->rightIconHidden = hide;
+    if (hide && !d->rightIconButton)
+        return; // not built: hidden already
+    ensureRightIcon();
+    d->rightIconButton->setHidden(hide);
+}
 
 void CommonItemType::setLeftIconButtonProperty(std::string const& name, QVariant value)
 {
@@ -418,6 +455,7 @@ void CommonItemType::setLeftIconButtonProperty(std::string const& name, QVariant
 
 void CommonItemType::setRightIconButtonProperty(std::string const& name, QVariant value)
 {
+    ensureRightIcon();
     d->rightIconButton->setProperty(name.c_str(), value);
 }
 
@@ -457,7 +495,8 @@ void CommonItemType::updateContentEnabled(bool enabled)
     d->iconsEnabled = enabled;
     if (d->leftIconButton)
         d->leftIconButton->setEnabled(enabled);
-    d->rightIconButton->setEnabled(enabled);
+    if (d->rightIconButton)
+        d->rightIconButton->setEnabled(enabled);
     setStyleProperty(d->titleLabel, kTitleProperty, enabled);
     setContentDisabled(!enabled);
 }
@@ -655,7 +694,11 @@ QPushButton* CommonItemType::leftIconButton() const
     ensureLeftIcon();
     return d->leftIconButton;
 }
-QPushButton* CommonItemType::rightIconButton() const { return d->rightIconButton; }
+QPushButton* CommonItemType::rightIconButton() const
+{
+    ensureRightIcon();
+    return d->rightIconButton;
+}
 RollLabel* CommonItemType::leftIconTitle() const
 {
     ensureLeftIcon();

@@ -124,7 +124,8 @@ signals:
 
 protected:
     // Parts of the row for subclasses (the left icon's and the second title's parts
-    // are built when first asked for).
+    // are built when first asked for; so is the right icon of a row that hides it
+    // before it is polished).
     QFrame* dynamicFrame() const;
     QHBoxLayout* dynamicLayout() const;
     QHBoxLayout* rowLayout() const;
@@ -139,12 +140,16 @@ protected:
     bool canEdit(QWidget const* editor) const;
     // Runs the text-changed callback, if any.
     void notifyTextChanged() const;
+    // A row whose right icon was never hidden builds it when it is polished.
+    bool event(QEvent* event) override;
 
 private:
     void createWidgets();
     // The parts most rows never show, built when first reached.
     void ensureLeftIcon() const;
     void ensureSecondTitle() const;
+    void ensureRightIcon() const;
+    void setTitleWidth(int width);
     QString smallLabelSheet() const;
 
     struct Impl;

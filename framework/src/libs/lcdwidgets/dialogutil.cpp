@@ -4,6 +4,7 @@
 #include <QBitmap>
 #include <QDialog>
 #include <QFrame>
+#include <QLabel>
 #include <QVBoxLayout>
 #include <QPointer>
 #include <QDebug>
@@ -85,6 +86,39 @@ QFrame* buildFramedWindow(QDialog* dialog, QSize size, QString const& frameName,
     outer->setContentsMargins(0, 0, 0, 0);
     outer->addWidget(frame);
     return frame;
+}
+
+QLabel* buildTitle(QFrame* frame, QString const& objectName, int px)
+{
+    auto* title = new QLabel(frame);
+    title->setObjectName(objectName);
+    title->setProperty("isTextViewTitle", true);
+    title->setAlignment(Qt::AlignCenter);
+    title->setStyleSheet(fontSheet("QLabel", px));
+    title->hide();
+    return title;
+}
+
+QVBoxLayout* buildColumn(QFrame* frame, QRect const& host, int px)
+{
+    int const margin = part(host.height(), 1, 24);
+    auto* layout = new QVBoxLayout(frame);
+    layout->setContentsMargins(px, margin, px, margin);
+    layout->setSpacing(margin / 2);
+    return layout;
+}
+
+void closeWithParent(QDialog* dialog, QObject* parent, char const* who)
+{
+    if (!parent)
+        return;
+    QObject::connect(parent, &QObject::destroyed, dialog, [dialog, who] {
+        if (!dialog->isVisible())
+            return;
+        if (who)
+            qDebug().noquote() << who << "parent destroyed: closing";
+        dialog->done(-1);
+    });
 }
 
 namespace {

@@ -11,6 +11,9 @@
 
 class QDialog;
 class QFrame;
+class QLabel;
+class QObject;
+class QVBoxLayout;
 class QWidget;
 
 namespace LCD {
@@ -48,6 +51,18 @@ QString fontSheet(char const* type, int px);
 // the dynamic property `frameProperty` = true; returns the frame.
 QFrame* buildFramedWindow(QDialog* dialog, QSize size, QString const& frameName,
                           char const* frameProperty = "isReminderFrameBg");
+
+// The centred title of a framed window: hidden until it has a text, the property
+// "isTextViewTitle" for the theme and a font of `px` pixels.
+QLabel* buildTitle(QFrame* frame, QString const& objectName, int px);
+
+// The column that fills a framed window: side margins of `px`, top and bottom ones
+// (and twice the spacing) of a 24th of the host's height.
+QVBoxLayout* buildColumn(QFrame* frame, QRect const& host, int px);
+
+// A dialog that is not its parent's child ends (done(-1)) when the parent goes away
+// while it is shown; with `who`, "<who> parent destroyed: closing" is logged.
+void closeWithParent(QDialog* dialog, QObject* parent, char const* who);
 
 // Runs `dialog` modally (its QDialog::exec()) as every dialog of the library does:
 // `executing` is 1 while it runs and back to 0 after (only if the dialog still

@@ -1,5 +1,6 @@
 #include "iplineedit.h"
 
+#include "inputcheck_p.h"
 #include "knoblevel.h"
 #include "stylehelper.h"
 
@@ -204,7 +205,7 @@ QLineEdit* IPLineEdit::field(int index) const { return index >= 0 && index < 4 ?
 
 void IPLineEdit::setFontSize(int size)
 {
-    if (size < 1)
+    if (!fontSizeOk("IPLineEdit", "setFontSize", size))
         return;
     m_fontSize = size;
     QFont font = m_fields[0]->font();
@@ -218,8 +219,11 @@ void IPLineEdit::setFontSize(int size)
 
 void IPLineEdit::setHeight(int height)
 {
-    if (height < 1)
+    // A field of no height shows nothing: refused like a negative one.
+    if (height < 1) {
+        qWarning().noquote() << QStringLiteral("[IPLineEdit] setHeight: length %1 refused").arg(height);
         return;
+    }
     int const h = qMin(height, QWIDGETSIZE_MAX - 12);
     for (QLineEdit* f : m_fields)
         f->setFixedHeight(h);

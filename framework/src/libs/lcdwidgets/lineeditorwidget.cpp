@@ -30,7 +30,7 @@ struct LCDWIDGETS_HIDDEN LineEditorWidget::Impl
 LineEditorWidget::LineEditorWidget(QWidget* parent, Kind kind) : CommonItemType(parent), d(std::make_unique<Impl>())
 {
     d->kind = kind == PadText ? PadText : KnobText;
-    rightIconButton()->hide();
+    setRightIconButtonHide(true);
     if (d->kind == KnobText) {
         d->knob = new QMLineEdit(dynamicFrame());
         d->editor = d->knob;

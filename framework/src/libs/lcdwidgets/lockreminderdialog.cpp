@@ -85,14 +85,7 @@ LockReminderDialog::LockReminderDialog(QRect rect, QWidget* parent) : QDialog(nu
         qDebug().noquote() << kWho << "timeout close";
         close();
     });
-    if (parent) {
-        connect(parent, &QObject::destroyed, this, [this] {
-            if (isVisible()) {
-                qDebug().noquote() << kWho << "parent destroyed: closing";
-                done(-1);
-            }
-        });
-    }
+    DialogUtil::closeWithParent(this, parent, kWho);
 }
 
 LockReminderDialog::~LockReminderDialog() = default;

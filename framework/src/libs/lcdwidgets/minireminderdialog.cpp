@@ -35,7 +35,6 @@ struct __attribute__((visibility("hidden"))) MiniProcessDialog::Impl
     std::unique_ptr<ReminderButtons> buttons;
     DialogType type = Information;
     VerticalPosition position = Bottom;
-    QPointer<QAbstractButton> clicked;
     QPointer<QWidget> parent;
     std::atomic<int> executing{0};
     QTimer* closeTimer = nullptr;
@@ -101,12 +100,7 @@ MiniProcessDialog::MiniProcessDialog(DialogType type, QRect rect, QWidget* paren
         d->closeTimer->stop();
     });
     connect(d->buttons->box(), &QDialogButtonBox::clicked, this, &MiniProcessDialog::slot_buttonClicked);
-    if (parent) {
-        connect(parent, &QObject::destroyed, this, [this] {
-            if (isVisible())
-                done(-1);
-        });
-    }
+    DialogUtil::closeWithParent(this, parent, nullptr);
     setFocus(Qt::OtherFocusReason);
 }
 
@@ -114,24 +108,8 @@ MiniProcessDialog::~MiniProcessDialog() = default;
 
 int MiniProcessDialog::prosper(QWidget* parent, QString const& text, QRect rect, QDialogButtonBox::ButtonRole role)
 {
-    if (text.isEmpty()) {
-        qWarning().noquote() << kWho << "prosper text is empty: nothing shown";
-        return QDialogButtonBox::NoRole;
-    }
-    QPointer<MiniProcessDialog> dialog = new MiniProcessDialog(Prosper, rect, parent);
-    dialog->setIcon(Prosper);
-    if (role != QDialogButtonBox::NoRole) {
-        QPushButton* ok = dialog->addButton(QDialogButtonBox::YesRole);
-        if (role == QDialogButtonBox::YesRole)
-            dialog->setDefaultButton(ok);
-    }
-    dialog->setText(text);
-    int const result = dialog->exec();
-    if (!dialog)
-        return QDialogButtonBox::NoRole;
-    int const clicked = result == -1 ? int(QDialogButtonBox::NoRole) : dialog->clickedButtonRole();
-    delete dialog.data();
-    return clicked == -1 ? int(QDialogButtonBox::NoRole) : clicked;
+    return runReminder<MiniProcessDialog>(kWho, "prosper", parent, text, rect, Prosper,
+                                          [role](MiniProcessDialog* dialog) { addOkButton(dialog, role); });
 }
 
 MiniProcessDialog* MiniProcessDialog::ongoing(QWidget* parent, QString const& text, QRect rect,
@@ -168,7 +146,7 @@ void MiniProcessDialog::setButtonBoxLayoutDirection(Qt::LayoutDirection directio
     d->buttons->box()->setLayoutDirection(direction);
 }
 
-int MiniProcessDialog::clickedButtonRole() const { return d->buttons->roleOf(d->clicked); }
+int MiniProcessDialog::clickedButtonRole() const { return d->buttons->roleOf(d->buttons->clicked()); }
 
 int MiniProcessDialog::buttonRole(QPushButton* button) const { return d->buttons->roleOf(button); }
 
@@ -240,50 +218,19 @@ int MiniProcessDialog::exec()
     return DialogUtil::execModal(this, &d->executing);
 }
 
-void MiniProcessDialog::slot_buttonClicked(QAbstractButton* button)
-{
-    if (!button || !button->isVisible() || !d->buttons->box()->buttons().contains(button))
-        return;
-    d->clicked = button;
-    switch (d->buttons->box()->buttonRole(button)) {
-    case QDialogButtonBox::NoRole:
-        done(QDialogButtonBox::NoRole);
-        break;
-    case QDialogButtonBox::YesRole:
-    case QDialogButtonBox::ActionRole:
-        accept();
-        break;
-    default:
-        break;
-    }
-}
-
-bool MiniProcessDialog::swallowsBack(QKeyEvent* event) const
-{
-    return d->type == Progress && (event->key() == Qt::Key_Escape || event->key() == Qt::Key_Back);
-}
+void MiniProcessDialog::slot_buttonClicked(QAbstractButton* button) { d->buttons->click(button); }
 
 bool MiniProcessDialog::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::KeyPress && qobject_cast<QPushButton*>(watched)) {
-        auto* key = static_cast<QKeyEvent*>(event);
-        if (swallowsBack(key)) {
-            key->accept();
-            return true;
-        }
-        if (d->buttons->navigate(key, nullptr, false))
-            return true;
-    }
+    if (d->buttons->filterKey(watched, event, d->type == Progress, nullptr, false))
+        return true;
     return QDialog::eventFilter(watched, event);
 }
 
 void MiniProcessDialog::keyPressEvent(QKeyEvent* event)
 {
-    if (swallowsBack(event)) {
-        event->accept();
-        return;
-    }
-    QDialog::keyPressEvent(event);
+    if (!ReminderButtons::swallowBack(event, d->type == Progress))
+        QDialog::keyPressEvent(event);
 }
 
 void MiniProcessDialog::showEvent(QShowEvent* event)

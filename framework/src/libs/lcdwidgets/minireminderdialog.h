@@ -120,8 +120,6 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    bool swallowsBack(QKeyEvent* event) const;
-
     struct Impl;
     std::unique_ptr<Impl> d;
 };

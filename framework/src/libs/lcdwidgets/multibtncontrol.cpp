@@ -371,10 +371,7 @@ void MultiBtnControl::focusInEvent(QFocusEvent* event)
         d->current = button;
         return;
     }
-    MultiWidgetList const& list = entries();
-    int const first = firstChoice(list.size(), [&list](int i) { return list.at(i).second; });
-    if (first >= 0)
-        list.at(first).second->setFocus(Qt::OtherFocusReason);
+    focusFirstChoice(entries());
 }
 
 bool MultiBtnControl::filterKey(int key)

@@ -25,9 +25,7 @@ namespace {
 template <typename F>
 void forEachBox(MultiWidgetList const& list, F f)
 {
-    for (auto const& pair : list)
-        if (auto* box = qobject_cast<QCheckBox*>(pair.second))
-            f(box);
+    forEachChoice<QCheckBox>(list, f);
 }
 } // namespace
 
@@ -63,12 +61,8 @@ void MultiCheckBoxControl::setCheckStatus(int value, bool checked, bool partial)
 
 int MultiCheckBoxControl::getCheckStatus(int value) const
 {
-    for (auto const& pair : entries()) {
-        auto* box = qobject_cast<QCheckBox*>(pair.second);
-        if (box && choiceData(box, kChoiceValueId).toInt() == value)
-            return static_cast<int>(box->checkState());
-    }
-    return -1;
+    QCheckBox const* box = choiceWithValue<QCheckBox>(entries(), value);
+    return box ? static_cast<int>(box->checkState()) : -1;
 }
 
 void MultiCheckBoxControl::setCurrentData(QVector<int> values)
@@ -134,10 +128,7 @@ void MultiCheckBoxControl::enterPressed() const
 void MultiCheckBoxControl::focusInEvent(QFocusEvent* event)
 {
     MultiWidgetControl::focusInEvent(event);
-    MultiWidgetList const& list = entries();
-    int const first = firstChoice(list.size(), [&list](int i) { return list.at(i).second; });
-    if (first >= 0)
-        list.at(first).second->setFocus(Qt::OtherFocusReason);
+    focusFirstChoice(entries());
 }
 
 bool MultiCheckBoxControl::filterKey(int key)

@@ -108,7 +108,7 @@ struct LCDWIDGETS_HIDDEN MultipleSpinBox::Impl
 
 MultipleSpinBox::MultipleSpinBox(QWidget* parent) : CommonItemType(parent), d(std::make_unique<Impl>())
 {
-    rightIconButton()->hide();
+    setRightIconButtonHide(true);
     d->list = new QWidget(dynamicFrame());
     d->listLayout = new QVBoxLayout(d->list);
     d->listLayout->setContentsMargins(0, 2, 0, 2);

@@ -28,7 +28,7 @@ MultiSpinBox::MultiSpinBox(QWidget* parent)
 MultiSpinBox::MultiSpinBox(QStringList const& captions, QWidget* parent)
     : CommonItemType(parent), d(std::make_unique<Impl>())
 {
-    rightIconButton()->hide();
+    setRightIconButtonHide(true);
     dynamicLayout()->addStretch();
     d->fields = new SpinFields(this, dynamicLayout());
     d->fields->valueChanged = [this](int index, int value) {

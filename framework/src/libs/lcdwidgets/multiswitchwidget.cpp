@@ -22,22 +22,12 @@ MultiSwitchWidget::MultiSwitchWidget(QWidget* parent) : MultiWidgetControl(paren
 MultiSwitchWidget::~MultiSwitchWidget() = default;
 
 namespace {
-SwitchWidget* switchWith(MultiWidgetList const& list, int value)
-{
-    for (auto const& pair : list) {
-        auto* w = qobject_cast<SwitchWidget*>(pair.second);
-        if (w && choiceData(w, kChoiceValueId).toInt() == value)
-            return w;
-    }
-    return nullptr;
-}
+SwitchWidget* switchWith(MultiWidgetList const& list, int value) { return choiceWithValue<SwitchWidget>(list, value); }
 
 template <typename F>
 void forEachSwitch(MultiWidgetList const& list, F f)
 {
-    for (auto const& pair : list)
-        if (auto* w = qobject_cast<SwitchWidget*>(pair.second))
-            f(w);
+    forEachChoice<SwitchWidget>(list, f);
 }
 } // namespace
 
@@ -154,10 +144,7 @@ void MultiSwitchWidget::singleItemEnterPressed()
 void MultiSwitchWidget::focusInEvent(QFocusEvent* event)
 {
     MultiWidgetControl::focusInEvent(event);
-    MultiWidgetList const& list = entries();
-    int const first = firstChoice(list.size(), [&list](int i) { return list.at(i).second; });
-    if (first >= 0)
-        list.at(first).second->setFocus(Qt::OtherFocusReason);
+    focusFirstChoice(entries());
 }
 
 bool MultiSwitchWidget::filterKey(int key)

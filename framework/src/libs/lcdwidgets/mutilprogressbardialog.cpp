@@ -70,12 +70,7 @@ MutilProgressBarDialog::MutilProgressBarDialog(QRect rect, QWidget* parent) : QD
 
     d->frame = DialogUtil::buildFramedWindow(this, QSize(d->width, d->height), QStringLiteral("multiProgressFrame"));
 
-    d->title = new QLabel(d->frame);
-    d->title->setObjectName(QStringLiteral("multiProgressTitle"));
-    d->title->setProperty("isTextViewTitle", true);
-    d->title->setAlignment(Qt::AlignCenter);
-    d->title->setStyleSheet(DialogUtil::fontSheet("QLabel", N));
-    d->title->hide();
+    d->title = DialogUtil::buildTitle(d->frame, QStringLiteral("multiProgressTitle"), N);
 
     d->scroll = new QScrollArea(d->frame);
     d->scroll->setObjectName(QStringLiteral("multiProgressList"));
@@ -111,23 +106,13 @@ MutilProgressBarDialog::MutilProgressBarDialog(QRect rect, QWidget* parent) : QD
             accept();
     });
 
-    int const margin = DialogUtil::part(d->rect.height(), 1, 24);
-    auto* layout = new QVBoxLayout(d->frame);
-    layout->setContentsMargins(N, margin, N, margin);
-    layout->setSpacing(margin / 2);
+    auto* layout = DialogUtil::buildColumn(d->frame, d->rect, N);
     layout->addWidget(d->title);
     layout->addWidget(d->scroll, 1);
     layout->addWidget(d->summary);
     layout->addWidget(d->buttons->box(), 0, Qt::AlignHCenter);
 
-    if (parent) {
-        connect(parent, &QObject::destroyed, this, [this] {
-            if (isVisible()) {
-                qDebug().noquote() << kWho << "parent destroyed: closing";
-                done(-1);
-            }
-        });
-    }
+    DialogUtil::closeWithParent(this, parent, kWho);
     setFocus(Qt::OtherFocusReason);
     updateSummary();
 }

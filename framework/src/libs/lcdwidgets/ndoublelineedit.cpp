@@ -208,17 +208,10 @@ void NDoubleLineEdit::keyPressEvent(QKeyEvent* event)
 
 void NDoubleLineEdit::keyReleaseEvent(QKeyEvent* event)
 {
-    switch (event->key()) {
-    case Qt::Key_Up:
-    case Qt::Key_Down:
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-    case Qt::Key_Escape:
-        event->accept(); // the page must not see the end of an editing key
-        return;
-    default:
+    if (isEditingKey(event->key()))
+        event->accept();
+    else
         QLineEdit::keyReleaseEvent(event);
-    }
 }
 
 void NDoubleLineEdit::focusInEvent(QFocusEvent* event)

@@ -106,17 +106,10 @@ void NSignalLineEdit::keyPressEvent(QKeyEvent* event)
 
 void NSignalLineEdit::keyReleaseEvent(QKeyEvent* event)
 {
-    switch (event->key()) {
-    case Qt::Key_Up:
-    case Qt::Key_Down:
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-    case Qt::Key_Escape:
+    if (isEditingKey(event->key()))
         event->accept();
-        return;
-    default:
+    else
         QLineEdit::keyReleaseEvent(event);
-    }
 }
 
 void NSignalLineEdit::focusInEvent(QFocusEvent* event)

@@ -176,17 +176,10 @@ void QMLineEdit::keyPressEvent(QKeyEvent* event)
 
 void QMLineEdit::keyReleaseEvent(QKeyEvent* event)
 {
-    switch (event->key()) {
-    case Qt::Key_Up:
-    case Qt::Key_Down:
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-    case Qt::Key_Escape:
+    if (isEditingKey(event->key()))
         event->accept();
-        return;
-    default:
+    else
         QLineEdit::keyReleaseEvent(event);
-    }
 }
 
 void QMLineEdit::focusInEvent(QFocusEvent* event)

@@ -168,6 +168,40 @@ void ReminderButtons::setFontPixels(int px)
         b->setStyleSheet(sheet);
 }
 
+void ReminderButtons::click(QAbstractButton* button)
+{
+    if (!button || !button->isVisible() || !m_box->buttons().contains(button))
+        return;
+    m_clicked = button;
+    switch (m_box->buttonRole(button)) {
+    case QDialogButtonBox::NoRole:
+        m_dialog->done(QDialogButtonBox::NoRole);
+        break;
+    case QDialogButtonBox::YesRole:
+    case QDialogButtonBox::ActionRole:
+        m_dialog->accept();
+        break;
+    default:
+        break;
+    }
+}
+
+bool ReminderButtons::swallowBack(QKeyEvent* event, bool swallow)
+{
+    if (!swallow || (event->key() != Qt::Key_Escape && event->key() != Qt::Key_Back))
+        return false;
+    event->accept();
+    return true;
+}
+
+bool ReminderButtons::filterKey(QObject* watched, QEvent* event, bool swallow, QWidget* textView, bool scrollBar) const
+{
+    if (event->type() != QEvent::KeyPress || !qobject_cast<QPushButton*>(watched))
+        return false;
+    auto* key = static_cast<QKeyEvent*>(event);
+    return swallowBack(key, swallow) || navigate(key, textView, scrollBar);
+}
+
 bool ReminderButtons::navigate(QKeyEvent* event, QWidget* textView, bool scrollBar) const
 {
     QList<QPushButton*> order = buttons();

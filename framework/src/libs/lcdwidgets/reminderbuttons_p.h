@@ -2,13 +2,19 @@
 // icons, the shared widths, the role mapping and the knob's walk over the buttons.
 #pragma once
 
+#include <QDebug>
 #include <QDialogButtonBox>
 #include <QList>
 #include <QPointer>
+#include <QPushButton>
+#include <QRect>
+
+#include <functional>
 
 class QDialog;
+class QEvent;
 class QKeyEvent;
-class QPushButton;
+class QObject;
 class QWidget;
 
 namespace LCD {
@@ -51,6 +57,19 @@ public:
     // Returns true when the key was used.
     bool navigate(QKeyEvent* event, QWidget* textView, bool scrollBar) const;
 
+    // A click on `button` (one of the box's, shown): remembered as clicked(); NoRole
+    // ends the dialog with NoRole, YesRole and ActionRole accept it.
+    void click(QAbstractButton* button);
+    QAbstractButton* clicked() const { return m_clicked; }
+
+    // A key pressed on one of the buttons (the dialog filters them): a back key is
+    // swallowed when `swallow`, the others walk the buttons (see navigate()).
+    // Returns true when the key was used.
+    bool filterKey(QObject* watched, QEvent* event, bool swallow, QWidget* textView, bool scrollBar) const;
+    // A back key (Escape, Back) is accepted and used up when `swallow` (a dialog the
+    // user cannot close): true then.
+    static bool swallowBack(QKeyEvent* event, bool swallow);
+
     static QString textOf(QDialogButtonBox::ButtonRole role);
 
 private:
@@ -59,7 +78,43 @@ private:
     int m_hostWidth;
     float m_fontSize;
     QPointer<QPushButton> m_default;
+    QPointer<QAbstractButton> m_clicked;
 };
+
+// One OK button (YesRole, default when `role` is YesRole); none when `role` is NoRole.
+template <class D>
+void addOkButton(D* dialog, QDialogButtonBox::ButtonRole role)
+{
+    if (role == QDialogButtonBox::NoRole)
+        return;
+    QPushButton* ok = dialog->addButton(QDialogButtonBox::YesRole);
+    if (role == QDialogButtonBox::YesRole)
+        dialog->setDefaultButton(ok);
+}
+
+// Runs a static helper's dialog D (built of `type`, its icon, `addButtons` and the
+// text): refuses an empty text with "<who> <helper> text is empty: nothing shown",
+// survives the dialog being deleted while it runs, and reports the role (NoRole when
+// no button closed it).
+template <class D>
+int runReminder(char const* who, char const* helper, QWidget* parent, QString const& text, QRect rect,
+                typename D::DialogType type, std::function<void(D*)> const& addButtons)
+{
+    if (text.isEmpty()) {
+        qWarning().noquote() << who << helper << "text is empty: nothing shown";
+        return QDialogButtonBox::NoRole;
+    }
+    QPointer<D> dialog = new D(type, rect, parent);
+    dialog->setIcon(type);
+    addButtons(dialog);
+    dialog->setText(text);
+    int const result = dialog->exec();
+    if (!dialog)
+        return QDialogButtonBox::NoRole;
+    int const role = result == -1 ? int(QDialogButtonBox::NoRole) : dialog->clickedButtonRole();
+    delete dialog.data();
+    return role == -1 ? int(QDialogButtonBox::NoRole) : role;
+}
 
 } // namespace Widget
 } // namespace LCD

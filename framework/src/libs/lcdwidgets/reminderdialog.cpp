@@ -49,25 +49,10 @@ char const* iconName(ReminderDialog::DialogType type)
 
 bool validType(int type) { return type >= ReminderDialog::Information && type <= ReminderDialog::Progress; }
 
-// Runs a helper's dialog: refuses an empty text, survives the dialog being deleted
-// while it runs, and reports the role (NoRole when no button closed it).
 int runHelper(char const* helper, QWidget* parent, QString const& text, QRect rect, ReminderDialog::DialogType type,
               std::function<void(ReminderDialog*)> const& addButtons)
 {
-    if (text.isEmpty()) {
-        qWarning().noquote() << kWho << helper << "text is empty: nothing shown";
-        return QDialogButtonBox::NoRole;
-    }
-    QPointer<ReminderDialog> dialog = new ReminderDialog(type, rect, parent);
-    dialog->setIcon(type);
-    addButtons(dialog);
-    dialog->setText(text);
-    int const result = dialog->exec();
-    if (!dialog)
-        return QDialogButtonBox::NoRole;
-    int const role = result == -1 ? int(QDialogButtonBox::NoRole) : dialog->clickedButtonRole();
-    delete dialog.data();
-    return role == -1 ? int(QDialogButtonBox::NoRole) : role;
+    return runReminder<ReminderDialog>(kWho, helper, parent, text, rect, type, addButtons);
 }
 
 } // namespace
@@ -88,7 +73,6 @@ struct __attribute__((visibility("hidden"))) ReminderDialog::Impl
     QVBoxLayout* frameLayout = nullptr;
     std::unique_ptr<ReminderButtons> buttons;
     DialogType type = Information;
-    QPointer<QAbstractButton> clicked;
     QPointer<QWidget> parent;
     std::atomic<int> executing{0};
     QFrame* frame = nullptr;
@@ -116,15 +100,8 @@ ReminderDialog::ReminderDialog(DialogType type, QRect rect, QWidget* parent) : Q
     d->buttons = std::make_unique<ReminderButtons>(this, d->rect.width(), d->fontSize);
     createWidget();
     createConnects();
-    if (parent) {
-        // The dialog is not the parent's child: a parent that goes away ends it.
-        connect(parent, &QObject::destroyed, this, [this] {
-            if (isVisible()) {
-                qDebug().noquote() << kWho << "parent destroyed: closing";
-                done(-1);
-            }
-        });
-    }
+    // The dialog is not the parent's child: a parent that goes away ends it.
+    DialogUtil::closeWithParent(this, parent, kWho);
 }
 
 ReminderDialog::~ReminderDialog() = default;
@@ -226,24 +203,12 @@ void ReminderDialog::createConnects()
 
 int ReminderDialog::information(QWidget* parent, QString const& text, QRect rect, QDialogButtonBox::ButtonRole role)
 {
-    return runHelper("information", parent, text, rect, Information, [role](ReminderDialog* dialog) {
-        if (role == QDialogButtonBox::NoRole)
-            return;
-        QPushButton* ok = dialog->addButton(QDialogButtonBox::YesRole);
-        if (role == QDialogButtonBox::YesRole)
-            dialog->setDefaultButton(ok);
-    });
+    return runHelper("information", parent, text, rect, Information, [role](ReminderDialog* dialog) { addOkButton(dialog, role); });
 }
 
 int ReminderDialog::prosper(QWidget* parent, QString const& text, QRect rect, QDialogButtonBox::ButtonRole role)
 {
-    return runHelper("prosper", parent, text, rect, Prosper, [role](ReminderDialog* dialog) {
-        if (role == QDialogButtonBox::NoRole)
-            return;
-        QPushButton* ok = dialog->addButton(QDialogButtonBox::YesRole);
-        if (role == QDialogButtonBox::YesRole)
-            dialog->setDefaultButton(ok);
-    });
+    return runHelper("prosper", parent, text, rect, Prosper, [role](ReminderDialog* dialog) { addOkButton(dialog, role); });
 }
 
 int ReminderDialog::question(QWidget* parent, QString const& text, QRect rect, QDialogButtonBox::ButtonRole)
@@ -310,7 +275,7 @@ void ReminderDialog::setButtonBoxLayoutDirection(Qt::LayoutDirection direction)
     d->buttons->box()->setLayoutDirection(direction);
 }
 
-int ReminderDialog::clickedButtonRole() const { return d->buttons->roleOf(d->clicked); }
+int ReminderDialog::clickedButtonRole() const { return d->buttons->roleOf(d->buttons->clicked()); }
 
 int ReminderDialog::buttonRole(QPushButton* button) const { return d->buttons->roleOf(button); }
 
@@ -398,23 +363,7 @@ int ReminderDialog::exec()
 
 // ---- Slots ----
 
-void ReminderDialog::slot_buttonClicked(QAbstractButton* button)
-{
-    if (!button || !button->isVisible() || !d->buttons->box()->buttons().contains(button))
-        return;
-    d->clicked = button;
-    switch (d->buttons->box()->buttonRole(button)) {
-    case QDialogButtonBox::NoRole:
-        done(QDialogButtonBox::NoRole);
-        break;
-    case QDialogButtonBox::YesRole:
-    case QDialogButtonBox::ActionRole:
-        accept();
-        break;
-    default:
-        break;
-    }
-}
+void ReminderDialog::slot_buttonClicked(QAbstractButton* button) { d->buttons->click(button); }
 
 void ReminderDialog::slotScrollbarRangeChanged(int, int) { emit signalDetectScrollbar(); }
 
@@ -443,32 +392,17 @@ void ReminderDialog::slotApplyPushBtnClicked() const {}
 
 // ---- Events ----
 
-bool ReminderDialog::swallowsBack(QKeyEvent* event) const
-{
-    return d->type == Progress && (event->key() == Qt::Key_Escape || event->key() == Qt::Key_Back);
-}
-
 bool ReminderDialog::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::KeyPress && qobject_cast<QPushButton*>(watched)) {
-        auto* key = static_cast<QKeyEvent*>(event);
-        if (swallowsBack(key)) {
-            key->accept();
-            return true;
-        }
-        if (d->buttons->navigate(key, d->textView, d->scrollBarShown && d->scrollBar->isVisible()))
-            return true;
-    }
+    if (d->buttons->filterKey(watched, event, d->type == Progress, d->textView, d->scrollBarShown && d->scrollBar->isVisible()))
+        return true;
     return QDialog::eventFilter(watched, event);
 }
 
 void ReminderDialog::keyPressEvent(QKeyEvent* event)
 {
-    if (swallowsBack(event)) {
-        event->accept();
-        return;
-    }
-    QDialog::keyPressEvent(event);
+    if (!ReminderButtons::swallowBack(event, d->type == Progress))
+        QDialog::keyPressEvent(event);
 }
 
 void ReminderDialog::showEvent(QShowEvent* event)

@@ -167,7 +167,6 @@ protected:
 private:
     void createWidget();
     void createConnects();
-    bool swallowsBack(QKeyEvent* event) const;
     void fitTextHeight();
 
     struct Impl;

@@ -213,6 +213,11 @@ struct LCDWIDGETS_HIDDEN SwitcherSelect::Impl
     void fitScrollWidth(int itemWidth);
     void slotAddDevice(SwitcherInfo const& info);
     bool appendRecord(SwitcherInfo const& info);
+    // The item of a device held, for a status change: null (with the warning) for an
+    // empty or unknown serial number.
+    SwitcherItem* itemToUpdate(std::string const& sn) const;
+    // Sets a status of every record of `sn`.
+    void updateRecords(std::string const& sn, bool SwitcherInfo::*status, bool value);
 };
 
 SwitcherSelect::SwitcherSelect(QWidget* parent) : QWidget(parent), d(std::make_unique<Impl>())
@@ -421,40 +426,45 @@ void SwitcherSelect::clearSwitchers()
         setFocus(Qt::OtherFocusReason);
 }
 
-void SwitcherSelect::setDeviceOnline(std::string const& sn, bool online)
+SwitcherItem* SwitcherSelect::Impl::itemToUpdate(std::string const& sn) const
 {
     if (sn.empty()) {
         qWarning() << "[SwitcherSelect] Device SN is empty";
-        return;
+        return nullptr;
     }
-    auto it = d->bySn.find(sn);
-    if (it == d->bySn.end()) {
+    auto it = bySn.find(sn);
+    if (it == bySn.end()) {
         qWarning() << "[SwitcherSelect] Device not found, SN:" << sn.c_str();
-        return;
+        return nullptr;
     }
-    it->second->setOnline(online);
-    for (SwitcherInfo& r : d->records)
+    return it->second;
+}
+
+void SwitcherSelect::Impl::updateRecords(std::string const& sn, bool SwitcherInfo::*status, bool value)
+{
+    for (SwitcherInfo& r : records)
         if (r.sn == sn)
-            r.online = online;
+            r.*status = value;
+}
+
+void SwitcherSelect::setDeviceOnline(std::string const& sn, bool online)
+{
+    SwitcherItem* item = d->itemToUpdate(sn);
+    if (!item)
+        return;
+    item->setOnline(online);
+    d->updateRecords(sn, &SwitcherInfo::online, online);
     qDebug() << "[SwitcherSelect] Updated device online status, SN:" << sn.c_str() << ", Online:"
              << (online ? "true" : "false");
 }
 
 void SwitcherSelect::setDeviceBind(std::string const& sn, bool isBind)
 {
-    if (sn.empty()) {
-        qWarning() << "[SwitcherSelect] Device SN is empty";
+    SwitcherItem* item = d->itemToUpdate(sn);
+    if (!item)
         return;
-    }
-    auto it = d->bySn.find(sn);
-    if (it == d->bySn.end()) {
-        qWarning() << "[SwitcherSelect] Device not found, SN:" << sn.c_str();
-        return;
-    }
-    it->second->setBind(isBind);
-    for (SwitcherInfo& r : d->records)
-        if (r.sn == sn)
-            r.isBind = isBind;
+    item->setBind(isBind);
+    d->updateRecords(sn, &SwitcherInfo::isBind, isBind);
     qDebug() << "[SwitcherSelect] Updated device isBind status, SN:" << sn.c_str() << ", isBind:"
              << (isBind ? "true" : "false");
 }

@@ -45,12 +45,7 @@ TextViewDialog::TextViewDialog(QRect rect, QWidget* parent) : QDialog(nullptr), 
 
     d->frame = DialogUtil::buildFramedWindow(this, QSize(d->width, d->height), QStringLiteral("textViewFrame"));
 
-    d->title = new QLabel(d->frame);
-    d->title->setObjectName(QStringLiteral("textViewTitle"));
-    d->title->setProperty("isTextViewTitle", true);
-    d->title->setAlignment(Qt::AlignCenter);
-    d->title->setStyleSheet(DialogUtil::fontSheet("QLabel", N));
-    d->title->hide();
+    d->title = DialogUtil::buildTitle(d->frame, QStringLiteral("textViewTitle"), N);
     d->line = new QLabel(d->frame);
     d->line->setProperty("isLineLabel", true);
     d->line->setFixedHeight(qMax(1, N / 14));
@@ -69,23 +64,13 @@ TextViewDialog::TextViewDialog(QRect rect, QWidget* parent) : QDialog(nullptr), 
     d->view->installEventFilter(this);
     d->bar = d->view->verticalScrollBar();
 
-    int const margin = DialogUtil::part(d->rect.height(), 1, 24);
-    auto* layout = new QVBoxLayout(d->frame);
-    layout->setContentsMargins(N, margin, N, margin);
-    layout->setSpacing(margin / 2);
+    auto* layout = DialogUtil::buildColumn(d->frame, d->rect, N);
     layout->addWidget(d->title);
     layout->addWidget(d->line);
     layout->addWidget(d->view, 1);
 
-    if (parent) {
-        // Not the parent's child: a parent that goes away ends a running dialog.
-        connect(parent, &QObject::destroyed, this, [this] {
-            if (isVisible()) {
-                qDebug().noquote() << kWho << "parent destroyed: closing";
-                done(-1);
-            }
-        });
-    }
+    // Not the parent's child: a parent that goes away ends a running dialog.
+    DialogUtil::closeWithParent(this, parent, kWho);
     d->view->setFocus(Qt::OtherFocusReason);
 }
 

@@ -45,5 +45,19 @@ void setUnitText(QLabel* unit, QString const& text)
     unit->setVisible(!text.isEmpty());
 }
 
+bool isEditingKey(int key)
+{
+    switch (key) {
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Escape:
+        return true;
+    default:
+        return false;
+    }
+}
+
 } // namespace Widget
 } // namespace LCD

@@ -19,6 +19,9 @@ void buildTitledEditor(QFrame* frame, QWidget* editor, QLabel*& title, QLabel*& 
 void handFocusBack(QWidget* editor);
 // Shows the unit label only when it has a text.
 void setUnitText(QLabel* unit, QString const& text);
+// The keys an edit works with (knob turns, press, back): the editor takes their
+// releases too, the page must not see the end of an editing key.
+bool isEditingKey(int key);
 
 } // namespace Widget
 } // namespace LCD

@@ -57,7 +57,7 @@ struct LCDWIDGETS_HIDDEN TypeColorAdjust::Impl
 
 TypeColorAdjust::TypeColorAdjust(QWidget* parent) : CommonItemType(parent), d(std::make_unique<Impl>())
 {
-    rightIconButton()->hide();
+    setRightIconButtonHide(true);
     dynamicLayout()->addStretch();
     d->swatch = new ColorSwatch(dynamicFrame());
     d->swatch->setFixedSize(32, 24);

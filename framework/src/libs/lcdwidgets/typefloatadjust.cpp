@@ -19,7 +19,6 @@ namespace Widget {
 struct LCDWIDGETS_HIDDEN TypeFloatAdjust::Impl
 {
     NQDoubleSpinBox* spinBox = nullptr;
-    QLabel* valueLabel = nullptr;
 };
 
 TypeFloatAdjust::TypeFloatAdjust(QWidget* parent) : TypeFloatAdjust(SuffixNone, QuitKeepValue, parent) {}
@@ -28,14 +27,10 @@ TypeFloatAdjust::TypeFloatAdjust(SuffixType suffix, QuitStrategy quit, QWidget* 
     : CommonItemType(parent), d(std::make_unique<Impl>())
 {
     d->spinBox = new NQDoubleSpinBox(suffix, quit, dynamicFrame());
-    d->valueLabel = new QLabel(dynamicFrame());
-    d->valueLabel->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    d->valueLabel->setProperty("isLabelValueText", true);
-    d->valueLabel->hide();
 
     setStyleProperty(rightIconButton(), "isIconListEdit", true);
     if (commonWidgetType == 14) {
-        rightIconButton()->hide();
+        setRightIconButtonHide(true);
         d->spinBox->setProperty("isMultipleSpinBox", true);
         d->spinBox->setAlignment(Qt::AlignLeft);
     }
@@ -43,7 +38,6 @@ TypeFloatAdjust::TypeFloatAdjust(SuffixType suffix, QuitStrategy quit, QWidget* 
 
     dynamicLayout()->addStretch();
     dynamicLayout()->addWidget(d->spinBox);
-    dynamicLayout()->addWidget(d->valueLabel);
     d->spinBox->installEventFilter(this);
 
     connect(d->spinBox, &NQDoubleSpinBox::editFinished, this, [this](Qt::FocusReason) {
@@ -106,7 +100,6 @@ void TypeFloatAdjust::setSingleStep(float step)
 void TypeFloatAdjust::setContentDisabled(bool disabled) const
 {
     d->spinBox->setDisabled(disabled);
-    d->valueLabel->setDisabled(disabled);
 }
 
 void TypeFloatAdjust::setContentFontSize(int size)

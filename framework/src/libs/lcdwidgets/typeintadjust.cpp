@@ -1,5 +1,6 @@
 #include "typeintadjust.h"
 #include "inputcheck_p.h"
+#include "layoutslot_p.h"
 
 #include "lcdspinbox.h"
 #include "spinrow_p.h"
@@ -19,7 +20,11 @@ namespace Widget {
 struct LCDWIDGETS_HIDDEN TypeIntAdjust::Impl
 {
     NQSpinBox* spinBox = nullptr;
+    // The label only stands in for a hidden spin box (setSpinBoxShow): built then.
     QLabel* valueLabel = nullptr;
+    QSpacerItem* valueLabelSlot = nullptr;
+    QString labelText;
+    bool contentDisabled = false;
     QVariant value = QVariant(0);
 };
 
@@ -37,17 +42,12 @@ TypeIntAdjust::~TypeIntAdjust() = default;
 void TypeIntAdjust::createWidgets(SuffixType suffix, QuitStrategy quit, int commonWidgetType)
 {
     d->spinBox = new NQSpinBox(suffix, quit, commonWidgetType, dynamicFrame());
-    d->valueLabel = new QLabel(dynamicFrame());
-    d->valueLabel->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    d->valueLabel->setProperty("isLabelValueText", true);
-    // The label only stands in for a hidden spin box (setSpinBoxShow).
-    d->valueLabel->hide();
 
     if (commonWidgetType == 1) {
         setStyleProperty(rightIconButton(), "isIconListEdit", true);
         d->spinBox->setProperty("isCompomentsSpinBoxInput", true);
     } else if (commonWidgetType == 2) {
-        rightIconButton()->hide();
+        setRightIconButtonHide(true);
         d->spinBox->setProperty("isMultipleSpinBox", true);
         d->spinBox->setAlignment(Qt::AlignLeft);
     }
@@ -55,7 +55,7 @@ void TypeIntAdjust::createWidgets(SuffixType suffix, QuitStrategy quit, int comm
 
     dynamicLayout()->addStretch();
     dynamicLayout()->addWidget(d->spinBox);
-    dynamicLayout()->addWidget(d->valueLabel);
+    d->valueLabelSlot = addLayoutSlot(dynamicLayout());
     d->spinBox->installEventFilter(this);
 }
 
@@ -127,7 +127,9 @@ void TypeIntAdjust::setSingleStep(float step)
 void TypeIntAdjust::setContentDisabled(bool disabled) const
 {
     d->spinBox->setDisabled(disabled);
-    d->valueLabel->setDisabled(disabled);
+    d->contentDisabled = disabled;
+    if (d->valueLabel)
+        d->valueLabel->setDisabled(disabled);
 }
 
 void TypeIntAdjust::setContentFontSize(int size)
@@ -154,13 +156,33 @@ void TypeIntAdjust::setRangeMax(int maximum)
     setSpinBoxWidth();
 }
 
+void TypeIntAdjust::ensureValueLabel() const
+{
+    if (d->valueLabel)
+        return;
+    d->valueLabel = new QLabel(d->labelText, dynamicFrame());
+    d->valueLabel->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    d->valueLabel->setProperty("isLabelValueText", true);
+    d->valueLabel->setDisabled(d->contentDisabled);
+    d->valueLabel->hide();
+    fillLayoutSlot(dynamicLayout(), d->valueLabelSlot, d->valueLabel);
+}
+
 void TypeIntAdjust::setSpinBoxShow(bool show)
 {
     d->spinBox->setVisible(show);
+    if (show && !d->valueLabel)
+        return; // not built: hidden already
+    ensureValueLabel();
     d->valueLabel->setVisible(!show);
 }
 
-void TypeIntAdjust::setLabelText(QString const& text) { d->valueLabel->setText(text); }
+void TypeIntAdjust::setLabelText(QString const& text)
+{
+    d->labelText = text;
+    if (d->valueLabel)
+        d->valueLabel->setText(text);
+}
 
 void TypeIntAdjust::setSuffixType(SuffixType type) { d->spinBox->setSuffixType(type); }
 

@@ -71,6 +71,7 @@ public:
 private:
     void createWidgets(SuffixType suffix, QuitStrategy quit, int commonWidgetType);
     void createConnections();
+    void ensureValueLabel() const;
     QString fontSheet() const;
 
     struct Impl;

@@ -42,7 +42,7 @@ TypeIntAdjustSlider::TypeIntAdjustSlider(SuffixType suffix, QuitStrategy quit, Q
     d->slider->setRange(d->spinBox->minimum(), d->spinBox->maximum());
 
     if (commonWidgetType == 5) {
-        rightIconButton()->hide();
+        setRightIconButtonHide(true);
         d->spinBox->setProperty("isSliderSpinBoxInput", true);
         d->slider->setProperty("isIntAdjustSlider", true);
         d->slider->setProperty("intAdjustSliderStatus", QStringLiteral("normal"));

@@ -30,7 +30,7 @@ struct LCDWIDGETS_HIDDEN TypeIntProgressBar::Impl
 
 TypeIntProgressBar::TypeIntProgressBar(QWidget* parent) : CommonItemType(parent), d(std::make_unique<Impl>())
 {
-    rightIconButton()->hide();
+    setRightIconButtonHide(true);
     d->bar = new QProgressBar(dynamicFrame());
     d->bar->setRange(0, kBarResolution);
     d->bar->setTextVisible(true);

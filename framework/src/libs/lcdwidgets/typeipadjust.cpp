@@ -24,7 +24,7 @@ TypeIpAdjust::TypeIpAdjust(QWidget* parent, int kind) : CommonItemType(parent), 
     if (kind == 9)
         setStyleProperty(rightIconButton(), "isIconListEdit", true);
     else if (kind == 10)
-        rightIconButton()->hide();
+        setRightIconButtonHide(true);
     dynamicLayout()->addStretch();
     dynamicLayout()->addWidget(d->lineEdit);
     // Keys the line edit passes on (Escape) come by the row.

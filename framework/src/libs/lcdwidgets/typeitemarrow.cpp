@@ -1,5 +1,6 @@
 #include "typeitemarrow.h"
 #include "inputcheck_p.h"
+#include "layoutslot_p.h"
 
 #include "displaytext_p.h"
 
@@ -13,7 +14,9 @@ namespace Widget {
 
 struct LCDWIDGETS_HIDDEN TypeItemArrow::Impl
 {
-    QLabel* tag = nullptr;
+    QLabel* tag = nullptr; // built with its first text
+    QSpacerItem* tagSlot = nullptr;
+    bool contentDisabled = false;
     QPushButton* arrow = nullptr;
     QLabel* values[kValueLabelCount] = {};
     QString texts[kValueLabelCount];
@@ -28,12 +31,8 @@ TypeItemArrow::~TypeItemArrow() = default;
 
 void TypeItemArrow::createWidget()
 {
-    d->tag = new QLabel(dynamicFrame());
-    d->tag->setProperty("isArrowTag", true);
-    d->tag->setAlignment(Qt::AlignCenter);
-    d->tag->hide();
     dynamicLayout()->addStretch();
-    dynamicLayout()->addWidget(d->tag);
+    d->tagSlot = addLayoutSlot(dynamicLayout());
     for (QLabel*& label : d->values) {
         label = new QLabel(dynamicFrame());
         label->setProperty("isValueText", true);
@@ -48,6 +47,18 @@ void TypeItemArrow::createWidget()
     dynamicLayout()->addWidget(d->arrow);
     dynamicLayout()->setSpacing(6);
     setRightIconButtonHide(true);
+}
+
+void TypeItemArrow::ensureTag() const
+{
+    if (d->tag)
+        return;
+    d->tag = new QLabel(dynamicFrame());
+    d->tag->setProperty("isArrowTag", true);
+    d->tag->setAlignment(Qt::AlignCenter);
+    d->tag->setDisabled(d->contentDisabled);
+    d->tag->hide();
+    fillLayoutSlot(dynamicLayout(), d->tagSlot, d->tag);
 }
 
 bool TypeItemArrow::checkIndex(int index, char const* function) const
@@ -94,13 +105,18 @@ void TypeItemArrow::setLabelProperty(int index, char const* name, QVariant const
 
 void TypeItemArrow::setTagLabelText(QString text) const
 {
+    if (text.isEmpty() && !d->tag)
+        return; // not built: empty and hidden already
+    ensureTag();
     d->tag->setText(text);
     d->tag->setHidden(text.isEmpty());
 }
 
 void TypeItemArrow::setContentDisabled(bool disabled) const
 {
-    d->tag->setDisabled(disabled);
+    d->contentDisabled = disabled;
+    if (d->tag)
+        d->tag->setDisabled(disabled);
     d->arrow->setDisabled(disabled);
     for (QLabel* label : d->values)
         label->setDisabled(disabled);
@@ -126,7 +142,11 @@ QLabel* TypeItemArrow::valueLabel(int index) const
     return d->values[index];
 }
 
-QLabel* TypeItemArrow::tagLabel() const { return d->tag; }
+QLabel* TypeItemArrow::tagLabel() const
+{
+    ensureTag();
+    return d->tag;
+}
 
 QPushButton* TypeItemArrow::arrowButton() const { return d->arrow; }
 

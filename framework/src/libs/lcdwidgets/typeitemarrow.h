@@ -39,6 +39,7 @@ public:
 
 private:
     void createWidget();
+    void ensureTag() const;
     bool checkIndex(int index, char const* function) const;
 
     struct Impl;

@@ -1,5 +1,6 @@
 #include "typeitemtext.h"
 #include "inputcheck_p.h"
+#include "layoutslot_p.h"
 
 #include "displaytext_p.h"
 
@@ -38,7 +39,12 @@ void styleLabels(RollLabel* value, RollLabel* title)
 
 struct LCDWIDGETS_HIDDEN TypeItemText::Impl
 {
+    // The icon beside the value is hidden unless asked for: it is built on first use,
+    // with what was set for it before.
     QPushButton* iconButton = nullptr;
+    QSpacerItem* iconSlot = nullptr;
+    QSize iconSize;
+    bool contentDisabled = false;
     RollLabel* valueLabel = nullptr;
     QString valueText;
 };
@@ -54,15 +60,25 @@ TypeItemText::~TypeItemText() = default;
 void TypeItemText::createWidget()
 {
     setRightIconButtonHide(true);
-    d->iconButton = new QPushButton(dynamicFrame());
-    d->iconButton->setObjectName(QStringLiteral("iconButton"));
-    d->iconButton->setFocusPolicy(Qt::NoFocus);
-    d->iconButton->hide();
     d->valueLabel = makeValueLabel(dynamicFrame(), Qt::AlignRight | Qt::AlignVCenter);
     d->valueLabel->setText(d->valueText);
     dynamicLayout()->addStretch();
-    dynamicLayout()->addWidget(d->iconButton);
+    d->iconSlot = addLayoutSlot(dynamicLayout());
     dynamicLayout()->addWidget(d->valueLabel);
+}
+
+void TypeItemText::ensureIconButton() const
+{
+    if (d->iconButton)
+        return;
+    d->iconButton = new QPushButton(dynamicFrame());
+    d->iconButton->setObjectName(QStringLiteral("iconButton"));
+    d->iconButton->setFocusPolicy(Qt::NoFocus);
+    d->iconButton->setDisabled(d->contentDisabled);
+    if (d->iconSize.isValid())
+        d->iconButton->setFixedSize(d->iconSize);
+    d->iconButton->hide();
+    fillLayoutSlot(dynamicLayout(), d->iconSlot, d->iconButton);
 }
 
 void TypeItemText::createConnects() {}
@@ -83,7 +99,9 @@ QVariant TypeItemText::getLabelValue() { return d->valueLabel->text(); }
 void TypeItemText::setContentDisabled(bool disabled) const
 {
     d->valueLabel->setDisabled(disabled);
-    d->iconButton->setDisabled(disabled);
+    d->contentDisabled = disabled;
+    if (d->iconButton)
+        d->iconButton->setDisabled(disabled);
 }
 
 void TypeItemText::setContentFontSize(int size)
@@ -93,7 +111,9 @@ void TypeItemText::setContentFontSize(int size)
     CommonItemType::setContentFontSize(size);
     d->valueLabel->setStyleSheet(labelFontSheet(size));
     int const side = itemIconSide(itemHeight());
-    d->iconButton->setFixedSize(side, side);
+    d->iconSize = QSize(side, side);
+    if (d->iconButton)
+        d->iconButton->setFixedSize(d->iconSize);
 }
 
 void TypeItemText::setValueLabelFeed(bool wrap) { d->valueLabel->setWordWrap(wrap); }
@@ -114,10 +134,17 @@ void TypeItemText::setValueLabelSize(QSize size)
     d->valueLabel->setMinimumWidth(size.width());
 }
 
-void TypeItemText::setIconButtonHide(bool hide) { d->iconButton->setHidden(hide); }
+void TypeItemText::setIconButtonHide(bool hide)
+{
+    if (hide && !d->iconButton)
+        return; // not built: hidden already
+    ensureIconButton();
+    d->iconButton->setHidden(hide);
+}
 
 void TypeItemText::setIconButtonProperty(std::string const& name, QVariant value)
 {
+    ensureIconButton();
     setStyleProperty(d->iconButton, name.c_str(), value);
 }
 
@@ -125,7 +152,9 @@ void TypeItemText::setIconButtonSize(QSize size)
 {
     if (!sizeOk("TypeItemText", "setIconButtonSize", size))
         return;
-    d->iconButton->setFixedSize(size);
+    d->iconSize = size;
+    if (d->iconButton)
+        d->iconButton->setFixedSize(size);
 }
 
 void TypeItemText::rightDistanceCorrection(int width)
@@ -140,7 +169,11 @@ void TypeItemText::rightDistanceCorrection(int width)
 
 RollLabel* TypeItemText::valueLabel() const { return d->valueLabel; }
 
-QPushButton* TypeItemText::iconButton() const { return d->iconButton; }
+QPushButton* TypeItemText::iconButton() const
+{
+    ensureIconButton();
+    return d->iconButton;
+}
 
 // ---------------------------------------------------------------------------
 // TypeItemTextCenter

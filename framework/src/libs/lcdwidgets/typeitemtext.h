@@ -52,6 +52,7 @@ signals:
 
 private:
     void createWidget();
+    void ensureIconButton() const;
     void createConnects();
 
     struct Impl;

@@ -78,6 +78,8 @@ void TypeMainButton::createWidget()
 {
     // The row's own title and icon buttons are the whole entry: the left icon is
     // hidden and the right one shown, as in every row, until the page says otherwise.
+    // The right icon is this row's to show: built now, not on first use.
+    rightIconButton();
     setRollLabelStretchMax();
 }
 
