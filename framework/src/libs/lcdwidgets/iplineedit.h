@@ -56,9 +56,11 @@ public:
     int currentIndex() const { return m_index; }
     // The field 0..3 (the first octet is 0); null for another index.
     QLineEdit* field(int index) const;
-    // Font pixel size (ignored below 1) and height (ignored below 1) of the fields.
+    // Pixel size of the fields' text and dots, 1..512; another size is refused
+    // ("[IPLineEdit] setFontSize: font size <n> refused"). The widths follow.
     void setFontSize(int size);
-    // Fixed height of the fields in px (below 1 ignored); the widths follow.
+    // Fixed height of the fields in px; below 1 refused ("[IPLineEdit] setHeight: length
+    // <n> refused"). The widths follow.
     void setHeight(int height);
     // Sets a theme property on the four fields and repolishes them (null name ignored).
     void setLineEditProperty(char const* name, QVariant const& value) const;
