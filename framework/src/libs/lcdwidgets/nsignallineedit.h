@@ -16,7 +16,7 @@
 // keeps it) unless a slot has moved it already.
 // Knob turns (Up / Down) are swallowed while editing and go to the page otherwise.
 //
-// Bad input: setMaxLength with a length below 1 is refused and logged at warning
+// Bad input: setTextMaxLength with a length below 1 is refused and logged at warning
 // level as "[NSignalLineEdit] setTextMaxLength: <n> is not a length, ignored".
 //
 // Theme: "isSignalLineEdit" (true); "lineEditEditing" is true while an edit runs.
