@@ -26,6 +26,7 @@ class LCDWIDGETS_EXPORT AddDevice : public QWidget
 {
     Q_OBJECT
 public:
+    // An empty address, no device name, no hint; "Confirm" and "Cancel".
     explicit AddDevice(QWidget* parent = nullptr);
     ~AddDevice() override;
 
@@ -35,15 +36,22 @@ public:
     std::string getCurrentIp() const;
     // The name the host found for the address, shown under it.
     void setDeviceName(std::string const& name);
+    // The name last given to setDeviceName().
     QString deviceName() const;
     // The hint under the address ("" when none).
     QString hintText() const;
+    // Sets the page's texts ("Add Device" on two lines, "IP Address", "Confirm", "Cancel", the hint
+    // "Invalid IP address", "Device: %1") again in the current language.
     void retranslateUi();
 
+    // The address editor (owned by the page).
     IPEdit* ipEdit() const;
+    // The "Confirm" button (confirm()).
     QPushButton* confirmButton() const;
+    // The "Cancel" button (closePage()).
     QPushButton* cancelButton() const;
 
+    // The page's keys, as described above.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 public slots:
@@ -53,9 +61,14 @@ public slots:
     void closePage();
 
 signals:
+    // A usable address was confirmed: info.ip and info.name filled, the rest empty. A
+    // refused one is logged ("[AddDevice] Invalid IP address:") and shows the hint.
     void signalApply(LCD::Widget::SwitcherInfo const& info);
+    // Typing into the address began.
     void signalEditingStarted();
+    // Typing into the address ended.
     void signalEditingFinished();
+    // The page closed itself (closePage()).
     void signalAddDeviceHide();
 
 protected:

@@ -19,6 +19,7 @@ class LCDWIDGETS_EXPORT TwelveSegmentVerticalProgressBar : public QProgressBar
 {
     Q_OBJECT
 public:
+    // A QProgressBar painted as twelve segments; set it vertical and its range as usual.
     explicit TwelveSegmentVerticalProgressBar(QWidget* parent = nullptr);
 
     // Number of lit segments (0 to 12) for the current value.
@@ -32,6 +33,8 @@ class LCDWIDGETS_EXPORT BlockDialog : public QDialog
 {
     Q_OBJECT
 public:
+    // A frameless, translucent dialog with `text`; the bar (18×120 px, range 0..12) is
+    // hidden. Auto-delete is on.
     explicit BlockDialog(QString const& text = QString(), QWidget* parent = nullptr);
     ~BlockDialog() override;
 
@@ -39,21 +42,28 @@ public:
     // An empty text is refused (nothing shown, QDialog::Rejected).
     static int createBlockDialog(QString const& text, QWidget* parent = nullptr);
 
+    // The notice's text.
     void setText(QString const& text);
+    // The notice's text.
     QString text() const;
+    // Shows or hides the twelve-segment bar (hidden by default).
     void setProgressBarVisible(bool visible);
     // Refused (with a warning) when min > max.
     void setProgressRange(int min, int max);
     // Animates the bar from its minimum to its maximum in twelve ticks over `ms`
     // (negative counts as 0; 0 starts nothing).
     void setEffectDurationMs(int ms);
+    // The duration given to setEffectDurationMs(), in ms.
     int effectDurationMs() const;
+    // Whether run() deletes the dialog (deleteLater()) when it returns (default true).
     void setAutoDelete(bool autoDelete);
     // Place over the parent's global position (true) or at (0, 0).
     void setWinIsShow(bool mapToGlobal);
+    // The bar (owned by the dialog).
     TwelveSegmentVerticalProgressBar* progressBar() const;
     // The running animation's tick interval in ms, 0 when it is not running.
     int animationInterval() const;
+    // Ticks the animation has made: 0 to 12 (12: the bar is full).
     int animationStep() const;
 
     // exec(), then deleteLater() with auto-delete.

@@ -34,10 +34,15 @@ public:
     void retranslateUi();
 
 signals:
+    // The OK button was clicked.
     void signalOkBtnClicked();
+    // The Cancel button was clicked.
     void signalCancelBtnClicked();
+    // The Previous step button was clicked.
     void signalPreStepBtnClicked();
+    // The Export button was clicked.
     void signalExportBtnClicked();
+    // The Update button was clicked.
     void signalUpdateBtnClicked();
 
 protected:

@@ -36,22 +36,38 @@ public:
     void addButton(int id, QString const& text, QString const& iconProperty, bool isDelete = false);
     // The calls below log and refuse an id without a tile.
     void setLabelText(int id, QString const& text) const;
+    // Focuses the tile; an unknown id is logged:
+    // "[CustomReminderDialog] setBtnFocus button(<id>) does not exist."
     void setBtnFocus(int id) const;
+    // Disables or enables the tile; its caption is dimmed with it (theme property
+    // "isDeleteLabel" or "isPresetDialogText" = !disabled).
     void setButtonDisabled(int id, bool disabled);
     // A hidden tile is also disabled; the row is centred again when shown.
     void setButtonVisible(int id, bool visible);
+    // true: a press emits btnPressed(id) and the dialog stays open; false (default): a press
+    // closes the dialog with the tile's id.
     void setZOrderFlag(bool zOrder);
+    // See setZOrderFlag().
     bool zOrderFlag() const;
     // The ids of the tiles, in insertion order.
     QList<int> buttonIds() const;
 
+    // Runs the dialog modally, centred on the host rectangle: the pressed tile's id, or -1
+    // after Escape. A second run while one is under way is refused
+    // ("[CustomReminderDialog] exec: already running, refused") and answers Rejected (0).
     int exec() override;
+    // The dialog's width in px (11/16 of the host's width).
     int getCustomReminderDialogWidth() const;
+    // The dialog's height in px (3/5 of the host's height).
     int getCustomReminderDialogHeight() const;
+    // The text size in px derived from the host rectangle (its width / 37.5); captions use
+    // 4/5 of it.
     float getFontSize() const;
 
 signals:
+    // In z-order mode: a tile was pressed.
     void btnPressed(int id);
+    // Escape closed the dialog (emitted before it closes with -1).
     void backSpaceClicked();
 
 protected:
@@ -71,6 +87,7 @@ class LCDWIDGETS_EXPORT RoundedCornersDialog : public QDialog
 {
     Q_OBJECT
 public:
+    // A QDialog masked to its rectangle with 6 px corners on every resize.
     explicit RoundedCornersDialog(QWidget* parent = nullptr, Qt::WindowFlags flags = Qt::WindowFlags());
 
 protected:

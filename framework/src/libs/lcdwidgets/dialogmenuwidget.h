@@ -42,16 +42,23 @@ class LCDWIDGETS_EXPORT ListWidgetDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
 public:
+    // Rows at 20 px, the selected row orange (255, 150, 38) and bold, the others white.
     explicit ListWidgetDelegate(QObject* parent = nullptr);
 
+    // Paints the row's text at fontPixelSize() in the selected colour (bold) or the normal one.
     void paint(QPainter* painter, QStyleOptionViewItem const& option, QModelIndex const& index) const override;
 
     // Pixel size of the rows' text (values below 1 are refused).
     void setFontPixelSize(int size);
+    // The rows' text pixel size (default 20).
     int fontPixelSize() const { return m_fontSize; }
+    // Text colour of the row under the cursor; an invalid colour is ignored.
     void setSelectedColor(QColor color);
+    // Text colour of the row under the cursor (default (255, 150, 38)).
     QColor selectedColor() const { return m_selectedColor; }
+    // Text colour of the other rows; an invalid colour is ignored.
     void setNormalColor(QColor color);
+    // Text colour of the other rows (default white).
     QColor normalColor() const { return m_normalColor; }
 
 private:
@@ -65,8 +72,10 @@ class LCDWIDGETS_EXPORT DialogMenuWidget : public QDialog
 {
     Q_OBJECT
 public:
+    // An entry: its text and its item data by role.
     using Entry = std::pair<QString, QMap<int, QVariant>>;
 
+    // A modal dialog, empty, with no title; 16 px margins, a 90 % opaque dark background.
     explicit DialogMenuWidget(QWidget* parent = nullptr);
     ~DialogMenuWidget() override;
 
@@ -80,55 +89,96 @@ public:
     // Like setCurrentIndex() without the current-signals; silent: no selection
     // signals either.
     void updateCurrentIndex(int i, bool silent);
+    // The row under the cursor (0 when empty).
     int getCurrentIndex() const;
     // The current entry's text; empty for a bad index.
     QString getCurrentText() const;
+    // The data for `role` of the row under the cursor; invalid for none.
     QVariant getCurrentData(int role = Qt::UserRole) const;
+    // An entry's data for `role`; an invalid QVariant for a bad index.
     QVariant getItemData(int index, int role = Qt::UserRole) const;
+    // An entry's text; empty for a bad index.
     QString getItemText(int index) const;
+    // Sets an entry's data for `role` (kept over rebuilds); a bad index is refused with
+    // "the index is bigger than _itemNameList!".
     void setItemData(int index, QVariant value, int role = Qt::UserRole) const;
+    // Renames an entry, without signals; a bad index is refused with
+    // "the index is bigger than _itemNameList!".
     void setItemText(int index, QString const& text);
     // Make the first entry with that text (data) the current and committed one.
     void setCurrentText(QString text);
+    // By Qt::UserRole data. An unknown text or data is refused ("[DialogMenuWidget]
+    // setCurrentText: no entry" or "[DialogMenuWidget] setCurrentData: no entry holds").
     void setCurrentData(QVariant data);
+    // The index of the first entry with this text; -1 if none.
     int findText(QString const& text) const;
+    // The index of the first entry whose data for `role` equals `data`; -1 if none.
     int findData(QVariant const& data, int role = Qt::UserRole) const;
     // Number of rows, hidden ones included.
     int count() const;
+    // Number of rows that are not hidden.
     int visibleCount() const;
+    // Hides or shows a row (it keeps its index); a row not yet added is remembered for it.
+    // A negative row is refused ("[DialogMenuWidget] setRowHidden: negative row").
     void setRowHidden(int row, bool hide);
+    // Whether the row was hidden with setRowHidden().
     bool isRowHidden(int row) const;
+    // Removes every entry and hidden mark; cursor and committed entry back to 0. No signal.
     void clear();
+    // The title shown above the rows.
     void setDialogMenuTitle(QString title);
+    // The title shown above the rows.
     QString dialogMenuTitle() const;
     // Height shared by the title and the rows (the title takes one row).
     void setMenuWidgetHeight(int height);
+    // The height given to setMenuWidgetHeight(), in px (0: rows keep their natural height).
     int menuWidgetHeight() const;
+    // Sizes the title and the existing rows for a dialog menuHeight px high and width px
+    // wide (a row: menuHeight / 8; the rows span width - 32). A negative or too large
+    // height is refused ("[DialogMenuWidget] updateItemHeight: negative height").
     void updateItemHeight(int menuHeight, int width);
+    // The list's flow (default QListView::TopToBottom).
     void setFlow(QListView::Flow flow);
+    // Pixel size of the rows' and the title's text; outside 1..512 refused
+    // ("[DialogMenuWidget] setContentFontSize: size out of range:").
     void setContentFontSize(int size);
+    // Text colour of the rows not under the cursor (an invalid colour is ignored).
     void setItemTextColor(QColor color);
+    // Takes the font's pixel size for the rows (a font sized in points is ignored).
     void setItemTextFont(QFont font);
+    // Whether the last key the list took was Escape (the edit was given up).
     bool isKeyBackPressed() const;
+    // Number of row positions the window shows (7).
     int slidWindowCount() const;
     // The committed entry (Escape returns to it).
     int selectedIndex() const;
 
     // The parts, for the theme and for tests.
     QListWidget* listWidget() const;
+    // The title label ("isDialogMenuTitle").
     QLabel* titleLabel() const;
+    // Empty space above the rows near the start of the list (its height: rows x row height).
     QWidget* topSpacer() const;
+    // Empty space below the rows near the end of the list.
     QWidget* bottomSpacer() const;
+    // The delegate that paints the rows (owned by the list).
     ListWidgetDelegate* delegate() const;
 
+    // Works the list's keys as described above; Escape is passed on so that the dialog closes.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 signals:
+    // The cursor moved: the text of the row under it (before signalSelectedIndexChanged).
     void signalSelectedChanged(QString text);
+    // The cursor moved: the index of the row under it.
     void signalSelectedIndexChanged(int selectIndex);
+    // An entry was committed (or setCurrentIndex()): its text, before signalCurrentIndexChanged.
     void signalCurrentChanged(QString text);
+    // An entry was committed (or setCurrentIndex()): its index.
     void signalCurrentIndexChanged(int curIndex);
+    // Return/Enter committed an entry: its Qt::UserRole data (the first signal of a commit).
     void signalValueChanged(QVariant value);
+    // The edit ended: Return/Enter (after the commit signals) or Escape.
     void signalEditFinished();
 
 protected:

@@ -34,7 +34,9 @@ class LCDWIDGETS_EXPORT DoubleComboxBaseType : public StringComboxBaseType
 public:
     ~DoubleComboxBaseType() override;
 
+    // The first choice row (owned by this row).
     StringComboxBaseType* firstChoice() const;
+    // The second choice row (owned by this row).
     StringComboxBaseType* secondChoice() const;
 
     // --- The list interface (first choice) ---
@@ -62,12 +64,19 @@ public:
     void setEditable(bool editable) override;
 
     // --- Second choice shortcuts ---
+    // Appends an entry to the second choice.
     void addSecondItem(QString const& text, QVariant const& userData = QVariant());
+    // The second choice's chosen entry; -1 when none.
     int secondCurrentIndex() const;
+    // The second choice's chosen text.
     QString secondCurrentText() const;
+    // The second choice's chosen entry's data for `role`.
     QVariant secondCurrentData(int role = Qt::UserRole) const;
+    // Chooses an entry of the second choice (its own checks, messages and signals).
     void setSecondCurrentIndex(int index);
+    // Chooses the second choice's entry with that text (its own checks and signals).
     void setSecondCurrentText(QString const& text);
+    // Number of entries of the second choice.
     int secondCount() const;
 
     // --- Row operations ---
@@ -82,7 +91,9 @@ public:
     int editStage() const;
 
 signals:
+    // The second choice's chosen entry changed: its index.
     void signalSecondCurrentIndexChanged(int index);
+    // The second choice's chosen entry changed: its text.
     void signalSecondCurrentTextChanged(QString text);
 
 protected:

@@ -16,6 +16,7 @@ class LCDWIDGETS_EXPORT DrawGraphicsScene : public QGraphicsScene
 {
     Q_OBJECT
 public:
+    // An empty scene (see initScene()), no index, text at 20 px.
     explicit DrawGraphicsScene(QObject* parent = nullptr);
     ~DrawGraphicsScene() override;
 
@@ -24,6 +25,7 @@ public:
     // The scene rectangle; one with an edge beyond +-kMaxSceneCoordinate, or not
     // finite, is refused ("[DrawGraphicsScene] setSceneSize: rectangle refused:").
     static constexpr qreal kMaxSceneCoordinate = 16777216.0;
+    // See above.
     void setSceneSize(QRectF const& rect);
 
     // Replace every rectangle: one per entry, bordered, with its text. An empty array
@@ -34,6 +36,7 @@ public:
     void setCropRectInfo(CropRectInfoArray const& infos);
     // Text pixel size handed to every rectangle (sizes below 1 are refused).
     void setContentFontSize(int size);
+    // The text pixel size handed to the rectangles (default 20).
     int contentFontSize() const;
 
     // Removes and destroys every rectangle.
@@ -46,6 +49,7 @@ public:
 
     // The rectangles as data, in the order they were given.
     ItemDataInfoArray itemInfo() const;
+    // The same with each rectangle's crop flag (positions and sizes rounded).
     CropRectInfoArray cropRectInfo() const;
 
 private:

@@ -17,16 +17,22 @@ class LCDWIDGETS_EXPORT DrawGraphicsView : public QGraphicsView
 {
     Q_OBJECT
 public:
+    // The drawing's background colour (25, 110, 136).
     static const QColor BackgroundColor;
 
+    // A view of its own DrawGraphicsScene, without scroll bars.
     explicit DrawGraphicsView(QWidget* parent = nullptr);
     ~DrawGraphicsView() override;
 
+    // DrawGraphicsScene::setTemplateInfo(): the template's rectangles.
     void setItemInfo(std::vector<ItemDataInfo> const& infos);
+    // DrawGraphicsScene::setCropRectInfo(): a picture and its crop rectangles.
     void setCropRectInfo(CropRectInfoArray const& infos);
     // Height h, width (16 × h) / 9; heights below 1 are refused.
     void setDrawViewHeight(int h);
+    // DrawGraphicsScene::setContentFontSize().
     void setContentFontSize(int size);
+    // The view's scene (owned by the view).
     DrawGraphicsScene* drawScene() const;
 
 protected:

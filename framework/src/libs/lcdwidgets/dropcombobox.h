@@ -42,15 +42,20 @@ public:
     // Pixels the text moves per tick, and the gap between the end of the text and
     // its next turn.
     static constexpr int kStep = 2;
+    // Gap in px between the end of the scrolling text and its next turn.
     static constexpr int kGap = 40;
 
+    // No row scrolls until setScrollingRow() names one.
     explicit ScrollingTextDelegate(QObject* parent = nullptr);
 
+    // Paints the scrolling row's text shifted by offset(), twice kGap px apart, clipped to its
+    // rectangle; a row that fits, and every other row, is painted as usual.
     void paint(QPainter* painter, QStyleOptionViewItem const& option, QModelIndex const& index) const override;
 
     // The row whose text may scroll (the row under the cursor); -1: none. Changing it
     // restarts the text at its beginning.
     void setScrollingRow(int row);
+    // The row whose text may scroll; -1: none.
     int scrollingRow() const { return m_row; }
     // Current scroll offset of that row, in pixels.
     int offset() const { return m_offset; }
@@ -61,6 +66,7 @@ public:
     void reset();
 
 signals:
+    // The scrolling row moved: repaint it (the popup list repaints that row alone).
     void requestUpdate();
 
 private:
@@ -75,9 +81,12 @@ class LCDWIDGETS_EXPORT CustomListView : public QListView
 {
     Q_OBJECT
 public:
+    // A frameless popup list (object name "CustomListView"), single selection, not
+    // editable, no horizontal scroll bar, its rows painted by a ScrollingTextDelegate.
     explicit CustomListView(QWidget* parent = nullptr);
     ~CustomListView() override;
 
+    // The delegate that paints the rows (owned by the list).
     ScrollingTextDelegate* scrollingDelegate() const { return m_delegate; }
 
 signals:
@@ -103,9 +112,11 @@ class LCDWIDGETS_EXPORT DropCombobox : public QComboBox
     Q_PROPERTY(int fontSize READ fontSize WRITE setFontSize)
     Q_PROPERTY(bool isNeedShowCombox READ isNeedShowCombox WRITE setIsNeedShowCombox)
 public:
+    // Item data role that marks an entry as hidden (true: no list shows it).
     static constexpr int kHiddenRowRole = 252;
     // Screens up to this size always use the custom list.
     static constexpr int kSmallHomeWidth = 479;
+    // Height in px of that small screen.
     static constexpr int kSmallHomeHeight = 319;
     // The standard popup serves up to this many entries.
     static constexpr int kMaxStandardRows = 12;
@@ -122,18 +133,27 @@ public:
     // Pixel size of the combo's and the lists' text (and the height of a list row);
     // values below 1 are refused.
     void setFontSize(int size);
+    // The text pixel size; -1 until set.
     int fontSize() const;
     // Fixes the height of the combo and its line edit (negative: refused).
     void setHeight(int height);
     // The page area popups must stay inside.
     void setHomeRect(QRect rect);
+    // The rectangle last given to setHomeRect() (a null QRect by default).
     QRect homeRect() const;
+    // Alignment of the shown entry's text in the combo's line edit.
     void setLineEditAlign(QFlags<Qt::AlignmentFlag> align);
     // Whether the width follows the entries (default true).
     void setComboxAutomaticCal(bool automatic);
+    // Whether TypeStringCombox fits the combo's width to the entries each time it opens the
+    // list (default true).
     void setIsNeedShowCombox(bool show);
+    // See setIsNeedShowCombox().
     bool isNeedShowCombox() const;
+    // Records whether the combo's row is the page's current row (read by isCurrentItem(); it
+    // does not change the look).
     void setCurrentItem(bool current);
+    // See setCurrentItem(); false by default.
     bool isCurrentItem() const;
     // Size of the drop-down arrow (a style sheet rule on the combo); an empty size
     // leaves the theme's arrow.
@@ -143,6 +163,7 @@ public:
     // Recomputes the width from the widest visible entry.
     void setComboBoxMaxWidth();
 
+    // The combo's own popup list (owned by the combo; hidden until shown).
     CustomListView* getCustomListView() const;
     // Whether the standard popup is open.
     bool isPopupVisible() const;
@@ -153,25 +174,39 @@ public:
     bool usesCustomPopup() const;
     // Number of entries that are not hidden.
     int visibleCount() const;
+    // Whether the entry's data at kHiddenRowRole is true (false for a bad row).
     bool isRowHidden(int row) const;
 
+    // Opens the custom list or the standard popup (see usesCustomPopup()) with the cursor on
+    // the chosen entry (the first visible one when none), and makes it the active window.
+    // The custom list needs a visible window; without one it logs
+    // "-------activeWindow is null-----".
     void showPopup() override;
+    // Closes whichever list is open; when a list opened by showPopup() closes this way
+    // without a choice, sigCloseEdit() follows from the event loop.
     void hidePopup() override;
 
+    // Whether `text` holds a CJK ideograph (U+4E00..U+9FA5).
     bool isStrContainsChinese(QString text) const;
 
+    // A click on the line edit opens or closes the list; Escape (press and release) is
+    // consumed: its press closes an open list and ends the edit with sigCloseEdit().
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 public slots:
+    // Stops the popup list's scrolling text and sets it back to its start.
     void slotCloseEdit();
     // The current entry changed: signalIndexChanged and signalValueChanged (its user data).
     void slotIndexChanged(int index);
 
 signals:
+    // A list closed without a choice (Escape, or closed from outside); the edit is over.
     void sigCloseEdit();
+    // The current entry changed: its user data (after signalIndexChanged).
     void signalValueChanged(QVariant value);
     // An entry was chosen in a list; the edit is over.
     void eidtFinished(int index);
+    // The current entry changed: its index (before signalValueChanged).
     void signalIndexChanged(int index);
     // The width that follows the entries changed (the row lays its title out anew).
     void signalWidthChanged(int width);

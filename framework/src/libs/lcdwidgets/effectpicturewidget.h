@@ -29,18 +29,27 @@ namespace Widget {
 class LCDWIDGETS_EXPORT EffectPictureWidget : public QFrame
 {
     Q_OBJECT
+    // The font size n the sizes are scaled for (n / 16).
     Q_PROPERTY(int contentFontSize READ contentFontSize WRITE setContentFontSize)
 public:
     // Layout constants at the reference font size 16.
     static constexpr int kReferenceFontSize = 16;
+    // Height of the preview in px.
     static constexpr int kPreviewHeight = 40;
+    // Width of the preview in px.
     static constexpr int kPreviewWidth = 64;
+    // Space between the preview and the grid in px.
     static constexpr int kVerticalSpacing = 16;
+    // Width of the grid of buttons in px.
     static constexpr int kGridWidth = 360;
+    // Height of a row of buttons in px.
     static constexpr int kRowHeight = 24;
+    // Buttons a row.
     static constexpr int kColumns = 9;
+    // Width of a button in px.
     static constexpr int kButtonWidth = 40;
 
+    // No choices; the preview sized for the reference font size.
     explicit EffectPictureWidget(QFrame* parent = nullptr);
     ~EffectPictureWidget() override;
 
@@ -56,8 +65,11 @@ public:
     void setCurrentUserData(QVariant data) const;
     // Sizes for the font size n (n < 1 or n > kMaxFontSize is refused).
     static constexpr int kMaxFontSize = 512;
+    // Refused sizes are logged: "EffectPictureWidget::setContentFontSize: invalid font size <n>".
     void setContentFontSize(int size);
+    // The font size the sizes are scaled for.
     int contentFontSize() const;
+    // Disables (or enables) the grid and every button.
     void setContentDisabled(bool disabled) const;
     // Checks the current choice's button, unchecks the others, and plays its preview.
     void resetBtnCheckStatus();
@@ -67,16 +79,25 @@ public:
 
     // The buttons in creation (key) order, the preview label and the file it plays.
     QList<QPushButton*> buttons() const;
+    // The label that plays the preview.
     QWidget* previewLabel() const;
+    // The frame that holds the grid of buttons.
     QWidget* buttonFrame() const;
+    // The file the preview plays now.
     QString previewFile() const;
+    // The preview's animation (owned by the chooser).
     QMovie* movie() const;
 
+    // The buttons' keys: Up/Down move the focus (setUpDownPressed()); Escape returns to the
+    // committed choice and emits signalCloseEditStatus().
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 signals:
+    // A choice was made (press or click): its key, QVariant(int).
     void signalValueChanged(QVariant value);
+    // The focus moved to another choice: its key.
     void signalSelectedChanged(QVariant value);
+    // The edit ended (after a choice, or on Escape).
     void signalCloseEditStatus();
 
 protected:
@@ -97,12 +118,17 @@ class LCDWIDGETS_EXPORT TypeItemEffectPicture : public CommonItemType
 {
     Q_OBJECT
 public:
+    // An empty chooser.
     explicit TypeItemEffectPicture(QWidget* parent = nullptr);
     ~TypeItemEffectPicture() override;
 
+    // EffectPictureWidget::setPictureData().
     void setPictureData(QString const& name, QString const& previewFile, QMap<int, QPair<QString, QString>> const& choices);
+    // The choice with that key becomes current, silently (unknown keys refused).
     void setCurrentValue(int key);
+    // The current choice's key; -1 while there is none.
     int getCurrentValue() const;
+    // EffectPictureWidget::setCurrentUserData().
     void setCurrentUserData(QVariant data) const;
     void setContentFontSize(int size) override;
     void setContentDisabled(bool disabled) const override;
@@ -110,9 +136,11 @@ public:
     int getWidgetRow() override;
     void editValue() override;
 
+    // The chooser (owned by the row).
     EffectPictureWidget* effectPictureWidget() const;
 
 signals:
+    // A choice was made: its key (then signalCloseEditStatus() and signalEditFinished()).
     void signalEffectPictureValueChanged(QVariant value);
 
 private:

@@ -9,6 +9,7 @@ class LCDWIDGETS_EXPORT EllipsisLabel : public QLabel
 {
     Q_OBJECT
 public:
+    // An empty label that expands horizontally.
     explicit EllipsisLabel(QWidget* parent = nullptr);
 
     // Fixes the width to the text's width (plus margins), at most maxWidth when it is

@@ -30,6 +30,7 @@ class LCDWIDGETS_EXPORT ExpandableTable : public QTreeWidget
 {
     Q_OBJECT
 public:
+    // An empty two-column table without header; values wrap (margins 4 px and 2 px).
     explicit ExpandableTable(QWidget* parent = nullptr);
     ~ExpandableTable() override;
 
@@ -37,29 +38,48 @@ public:
     int addGroup(QString const& title, bool expanded = false);
     // Appends a key and value row to a group; returns its index in the group, or -1.
     int addRow(int group, QString const& key, QString const& value);
+    // Removes a group and its rows (a bad index is logged).
     void removeGroup(int group);
+    // Removes every group.
     void clearGroups();
+    // Number of groups.
     int groupCount() const;
+    // Number of rows of a group; -1 (and logged) for a bad group.
     int rowCount(int group) const;
+    // A group's title; empty for a bad group.
     QString groupTitle(int group) const;
+    // Renames a group (a bad index is logged).
     void setGroupTitle(int group, QString const& title);
+    // A row's key; empty for a bad group or row.
     QString key(int group, int row) const;
+    // A row's value; empty for a bad group or row.
     QString value(int group, int row) const;
+    // Sets a row's value (bad indexes are logged).
     void setValue(int group, int row, QString const& value);
+    // Opens or closes a group; a change emits signalGroupExpanded().
     void setGroupExpanded(int group, bool expanded);
+    // Whether a group is open; false for a bad group.
     bool isGroupExpanded(int group) const;
     // The current line: (group, row), row -1 for a group title; (-1, -1) for none.
     int currentGroup() const;
+    // The current line's row in its group; -1 on a group title or with no current line.
     int currentRowInGroup() const;
+    // Makes a group title (row -1) or a row current, opening its group and scrolling it
+    // into view; a change emits signalCurrentChanged(). Bad indexes are logged.
     void setCurrent(int group, int row = -1);
+    // Pixel size of the text, 1..512; another size is refused (see above).
     void setContentFontSize(int size);
     // Width of the key column in pixels (the value column takes the rest).
     void setKeyColumnWidth(int width);
 
 signals:
+    // A group opened or closed (by the knob or setGroupExpanded()).
     void signalGroupExpanded(int group, bool expanded);
+    // Enter/Return on a row.
     void signalRowActivated(int group, int row);
+    // The current line changed: its group and row (-1 for a title).
     void signalCurrentChanged(int group, int row);
+    // Escape: the table gives the knob back.
     void sigCloseEdit();
 
 protected:

@@ -27,20 +27,31 @@ class LCDWIDGETS_EXPORT FactoryTestFrame : public QFrame
 {
     Q_OBJECT
 public:
+    // The list and the right frame, no test running, every test NotTested.
     explicit FactoryTestFrame(QWidget* parent = nullptr);
     ~FactoryTestFrame() override;
 
+    // The list of tests (owned by the page).
     FactoryTestLeftFrame* leftFrame() const;
+    // The running test's frame (owned by the page).
     FactoryTestRightFrame* rightFrame() const;
 
+    // Starts a test (FactoryTestItem as int), makes it the list's current one and, when the
+    // page had the knob, hands it to the right frame; then signalTestStarted(test).
     void startTest(int test);
+    // Whether a test runs.
     bool isTestRunning() const;
+    // A test's mark; NotTested for a bad index (logged by the list).
     FactoryTestResult result(int test) const;
+    // Clears every mark to NotTested (the summary follows).
     void resetResults();
 
 signals:
+    // A test started.
     void signalTestStarted(int test);
+    // A test ended: its FactoryTestResult as int (NotTested: left without a verdict).
     void signalTestFinished(int test, int result);
+    // The list's counts changed.
     void signalSummaryChanged(int passed, int failed, int untested);
 
 private:

@@ -41,39 +41,58 @@ class LCDWIDGETS_EXPORT FactoryTestRightFrame : public QFrame
 {
     Q_OBJECT
 public:
+    // No test running; keys Up, Down, press and Escape expected; knob target 5; T-bar
+    // range 50..950.
     explicit FactoryTestRightFrame(QWidget* parent = nullptr);
     ~FactoryTestRightFrame() override;
 
+    // Starts a test (FactoryTestItem as int) from scratch; a test already running is dropped
+    // without a signal. A bad index is refused (see above).
     void startTest(int test);
     // Ends the running test with that result (nothing runs afterwards).
     void finishTest(FactoryTestResult result);
     // -1 when no test runs.
     int runningTest() const;
 
+    // The Qt keys the Keys test waits for; an empty list is refused ("[FactoryTestRightFrame]
+    // no keys to test").
     void setExpectedKeys(QVector<int> const& keys);
+    // The keys the Keys test waits for.
     QVector<int> expectedKeys() const;
+    // The expected keys seen so far in this run.
     QVector<int> seenKeys() const;
+    // Detents each direction needs in the Knob test, 1..1000 (see above).
     void setKnobTarget(int detents);
+    // Detents each direction needs (default 5).
     int knobTarget() const;
+    // Up detents counted in this run.
     int knobUpCount() const;
+    // Down detents counted in this run.
     int knobDownCount() const;
+    // The ends the T-bar must reach (low < high; see above).
     void setTBarRange(int low, int high);
     // Reads the T-bar now: the position, or -1 without a proxy (logged; a T-bar may
     // read -1 too, so the test asks the proxy, not the value).
     int readTBar();
     int tbarMinimum() const; // -1 before the first reading of a run
+    // Highest reading of the run; -1 before the first.
     int tbarMaximum() const;
     // Colour and pattern steps: the index shown (0-based) and their number.
     int fillIndex() const;
+    // Number of colours (5) or patterns (4) of the running fill test; 0 for another test.
     int fillCount() const;
     QColor fillColor() const; // invalid unless a colour is shown
+    // Whether the frame asks to fill the screen (a colour or pattern test runs).
     bool isFullScreen() const;
+    // Whether the fill test waits for "Pass" or "Fail".
     bool isAskingVerdict() const;
     // The body text (what was seen or read so far).
     QString bodyText() const;
 
 signals:
+    // The running test ended (once): its FactoryTestResult as int.
     void signalTestFinished(int test, int result);
+    // The frame asks to be shown full screen (true) or back in the page.
     void signalFullScreen(bool full);
 
 protected:

@@ -17,6 +17,7 @@ class LCDWIDGETS_EXPORT FocusComboBox : public QComboBox
 {
     Q_OBJECT
 public:
+    // An empty combo; it watches the application's events to keep the knob in its popup.
     explicit FocusComboBox(QWidget* parent = nullptr);
     ~FocusComboBox() override;
 

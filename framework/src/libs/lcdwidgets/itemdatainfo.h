@@ -16,16 +16,21 @@ struct ItemDataInfo
     std::string text; // label drawn in the rectangle (UTF-8)
     int x = 0;        // left edge
     int y = 0;        // top edge
+    // Width in scene units.
     int width = 0;
+    // Height in scene units.
     int height = 0;
 
+    // Equal when text and rectangle are.
     bool operator==(ItemDataInfo const& o) const
     {
         return text == o.text && x == o.x && y == o.y && width == o.width && height == o.height;
     }
+    // Not operator==().
     bool operator!=(ItemDataInfo const& o) const { return !(*this == o); }
 };
 
+// The rectangles of a drawing, in order.
 using ItemDataInfoArray = std::vector<ItemDataInfo>;
 // Crop input: the bool marks a crop rectangle (drawn white, bordered); false marks
 // the picture the crop lies on.

@@ -17,6 +17,7 @@ constexpr float kMaxKnobLevel = 1.0e6f;
 // The level carried in a key event's text: a float; empty, unreadable or NaN text
 // counts as 1.0, and the value is clamped to [-kMaxKnobLevel, kMaxKnobLevel].
 LCDWIDGETS_EXPORT float knobLevel(QString const& text);
+// The level of the event's text by the same rule; a null event counts as 1.0.
 LCDWIDGETS_EXPORT float knobLevel(QKeyEvent const* event);
 
 } // namespace Widget

@@ -40,19 +40,26 @@ class QMLineEdit;
 class LCDWIDGETS_EXPORT LineEditorWidget : public CommonItemType
 {
     Q_OBJECT
+    // The editor's kind, fixed at construction.
     Q_PROPERTY(Kind kind READ kind)
+    // The unit after the editor; empty hides it.
     Q_PROPERTY(QString unit READ unit WRITE setUnit)
 public:
+    // The editor's kind (see above).
     enum Kind { KnobText = 0, PadText = 1 };
     Q_ENUM(Kind)
 
+    // An empty text, no unit, no right icon; an unknown kind is taken as KnobText.
     explicit LineEditorWidget(QWidget* parent = nullptr, Kind kind = KnobText);
     ~LineEditorWidget() override;
 
+    // The editor's kind.
     Kind kind() const;
     // The editor; knobEditor() is null in a PadText row, padEditor() in a KnobText row.
     QLineEdit* editor() const;
+    // The knob editor of a KnobText row.
     QMLineEdit* knobEditor() const;
+    // The pad editor of a PadText row.
     NSignalLineEdit* padEditor() const;
 
     void setLabelValue(QVariant value, int mode = 0) override;
@@ -63,15 +70,19 @@ public:
     void setContentDisabled(bool disabled) const override;
     void setContentFontSize(int size) override;
 
+    // Maximum length of the text, 1..32767; another length is refused (see above).
     void setTextMaxLength(int length);
+    // The characters the knob offers (KnobText rows only; see QMLineEdit::setCharacterSet()).
     void setCharacterSet(QString const& characters);
     // Text shown in grey while the editor is empty.
     void setPlaceholder(QString const& text);
     // An empty unit hides the unit label.
     void setUnit(QString const& unit);
+    // The unit after the editor.
     QString unit() const;
     // Width of the editor in pixels (default 200).
     void setEditorWidth(int width);
+    // Whether the editor's edit runs.
     bool isEditorEditing() const;
 
 private:

@@ -48,6 +48,7 @@ class LCDWIDGETS_EXPORT LockPanel : public QFrame
 {
     Q_OBJECT
 public:
+    // Hold time of the unlock gesture by default, in ms.
     static constexpr int kDefaultHoldTime = 2000;
 
     // `rect` is the host area the reminder centres on (and the badge's corner when
@@ -55,13 +56,20 @@ public:
     explicit LockPanel(QRect rect, QWidget* parent = nullptr);
     ~LockPanel() override;
 
+    // Whether the panel is locked (unlocked at construction).
     bool isLocked() const;
 
+    // The Qt key of the unlock gesture (default Qt::Key_Escape); refused keys: see above.
     void setUnlockKey(int key);
+    // The Qt key of the unlock gesture.
     int unlockKey() const;
+    // How long the unlock key must be held, in ms; 0 unlocks on the press. Negative refused.
     void setUnlockHoldTime(int ms);
+    // The hold time in ms (kDefaultHoldTime by default).
     int unlockHoldTime() const;
+    // How long the reminder stays after the last key, in ms; negative refused.
     void setReminderTime(int ms);
+    // The reminder's display time in ms (2000 by default).
     int reminderTime() const;
     // The reminder's text; empty (the default) means the text made from the gesture.
     void setReminderText(QString const& text);
@@ -71,15 +79,21 @@ public:
     // Whether the unlock key is being held (the gesture is under way).
     bool isUnlocking() const;
 
+    // While locked, the application's input events, as described above.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 public slots:
+    // Locks the panel: the indicator shows, input is swallowed; signalLockedChanged(true).
     void lock();
+    // Unlocks the panel: the indicator hides; signalLockedChanged(false).
     void unlock();
+    // lock() or unlock().
     void setLocked(bool locked);
 
 signals:
+    // The panel was locked or unlocked.
     void signalLockedChanged(bool locked);
+    // A key press was swallowed while locked: its Qt key (not for the unlock key).
     void signalKeyRefused(int key);
 
 protected:

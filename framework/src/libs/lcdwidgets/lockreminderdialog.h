@@ -33,8 +33,11 @@ class LCDWIDGETS_EXPORT LockReminderDialog : public QDialog
 {
     Q_OBJECT
 public:
+    // Display time in ms before the reminder closes itself.
     static constexpr int kDefaultDisplayTime = 2000;
 
+    // rect: the host area the reminder is sized from and centred on. The text starts as
+    // unlockText(Qt::Key_Escape, 2000); the window stays on top.
     explicit LockReminderDialog(QRect rect, QWidget* parent = nullptr);
     ~LockReminderDialog() override;
 
@@ -45,19 +48,28 @@ public:
     // line, "Hold %1 for %2 s to unlock" with the key's name and the time.
     static QString unlockText(int key, int holdMs);
 
+    // The text under the lock icon (wrapped, centred).
     void setText(QString const& text);
+    // The text under the lock icon.
     QString text() const;
+    // Display time in ms; a negative time is refused (see above).
     void setDisplayTime(int ms);
+    // Display time in ms (kDefaultDisplayTime by default).
     int displayTime() const;
     // Starts the display time again (while shown).
     void restartTimer();
     // Whether the close timer runs.
     bool isTimerActive() const;
 
+    // The dialog's width in px (half the host's width).
     int getLockReminderDialogWidth() const;
+    // The dialog's height in px (a third of the host's height).
     int getLockReminderDialogHeight() const;
+    // Whether exec() is running; safe to poll from any thread.
     bool isExec() const;
 
+    // Runs the reminder modally until its time is up or a key closes it. A second run while
+    // one is under way is refused ("[LockReminderDialog] exec: already running, refused").
     int exec() override;
 
 protected:

@@ -26,8 +26,10 @@ namespace Widget {
 class LCDWIDGETS_EXPORT MultiBtnControl : public MultiWidgetControl
 {
     Q_OBJECT
+    // Pixel size of the buttons' text (the row's height follows).
     Q_PROPERTY(int contentFontSize READ contentFontSize WRITE setContentFontSize)
 public:
+    // An empty row ("multiButtonFrame" = "normal").
     explicit MultiBtnControl(QWidget* parent = nullptr);
     ~MultiBtnControl() override;
 
@@ -40,6 +42,7 @@ public:
     void addBtnData(QIcon const& icon, QPointF iconPos, QString const& text, QVariant const& data);
     // The same, inserted at `index` (clamped to 0..count()).
     void insertBtnData(int index, QString const& text, QVariant const& data);
+    // A button with an icon and text, inserted at `index` (clamped to 0..count()).
     void insertBtnData(int index, QIcon const& icon, QString const& text, QVariant const& data);
     // One text button a pair (text, value).
     void setBtnData(QVector<QPair<QString, int>> const& data);
@@ -48,31 +51,43 @@ public:
     void setBtnData(QVector<QPair<QIcon, QPair<QString, int>>> const& data);
     // Renames buttons: for each (value, text) the button with that value.
     void updateBtns(std::list<std::pair<int, QString>>& items);
+    // Removes (and deletes later) the button at `index`; a bad index is refused with the
+    // debug message "the index is bigger than _widList!".
     void removeBtnData(int index);
+    // Removes (and deletes later) every button; no current button remains.
     void removeAllBtnData();
 
     // User data `role` of the button at `index` (invalid for a bad index).
     QVariant btnData(int index, int role) const;
+    // User data `role` of the current button (256: its value); invalid when there is none.
     QVariant getCurrentData(int role) const;
+    // Text of the current button (an icon-only button's kept text); empty when none.
     QString getCurrentText() const;
     // Position of the current button; 0 when there is none.
     int getCurrentIndex() const;
+    // Number of buttons, hidden ones included.
     int count() const;
     // First button whose data (as int) equals `data` (as int); -1 if none.
     int findData(QVariant const& data, int role) const;
 
     // The current-setters: no signal.
     void setCurrentIndex(int index);
+    // Makes the button with that value current and checked; an unknown value changes nothing.
     void setCurrentData(int value);
+    // Makes the button with that text current; an unknown text changes nothing.
     void setCurrentText(QString text);
+    // Makes the button whose value equals `data` (as a QVariant) current.
     void setCurrentUserData(QVariant data);
 
+    // Shows or hides the first button with that value; the row's width follows.
     void setBtnVisible(int value, bool visible);
+    // Disables (or enables) the row and every button.
     void setContentDisabled(bool disabled);
     // Every button: no own style sheet, dynamic property `name` = true.
     void setStyleProperty(QString const& name);
     // Font size n: height n * 24 / 16, corners and paddings n / 4; sizes below 1 are refused.
     void setContentFontSize(int size);
+    // Pixel size of the buttons' text; -1 until set.
     int contentFontSize() const;
     // The focused button becomes current and checked (no signal).
     void enterPressed();
@@ -80,9 +95,13 @@ public:
     void resetBtnCheckStatus();
 
 signals:
+    // A button was chosen: its value (first of the four signals).
     void signalValueChanged(int value);
+    // A button was chosen: its position (third).
     void signalIndexChanged(int index);
+    // A button was chosen: its text (second).
     void signalTextChanged(QString text);
+    // The browse ended: after a choice (last signal) or on Escape.
     void signalCloseEditStatus();
 
 protected:

@@ -36,14 +36,20 @@ public:
     void enterPressed();
     // Position of `button`; -1 when it is not one of this pad's.
     int getIndex(QPushButton* button) const;
+    // Number of buttons.
     int count() const;
+    // The button at `index`; null for a bad index.
     QPushButton* button(int index) const;
 
+    // The buttons' keys: Up/Down, Enter/Return, Escape and Back as described above.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 signals:
+    // A button was pressed (knob or click): its value, QVariant(int).
     void signalValueChanged(QVariant value);
+    // Escape ended the edit.
     void signalCloseEditStatus();
+    // The panel's back key (Qt::Key_Back) was pressed.
     void signalBackBtnClicked();
 
 protected:

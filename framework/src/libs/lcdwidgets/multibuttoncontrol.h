@@ -31,6 +31,7 @@ class LCDWIDGETS_EXPORT MultiButtonControl : public QFrame
 {
     Q_OBJECT
 public:
+    // No buttons; the row takes the focus ("multiButtonFrame" = "normal").
     explicit MultiButtonControl(QWidget* parent = nullptr);
     ~MultiButtonControl() override;
 
@@ -38,14 +39,19 @@ public:
     void setBtnText(QVector<QPair<QString, int>>& data);
     // Chooses the button with that value, silently; an unknown value is refused.
     void setCurrentData(int value);
+    // Value of the current button; -1 when there is none.
     int getCurrentData() const;
+    // true: only the current button shows; false: all of them.
     void setOneBtnVisible(bool one);
     // The next / previous value (no wrap); emits signalValueChanged() when it moved.
     void nextBtnClicked();
+    // The previous value (no wrap); emits signalValueChanged() when it moved.
     void previousClicked();
     // Marks `button` as the current one (and shows it alone in the one-button mode).
     void updateBtnStyle(QPushButton* button);
+    // Number of buttons.
     int count() const;
+    // The button at `index`; null for a bad index.
     QPushButton* button(int index) const;
 
 public slots:
@@ -53,7 +59,9 @@ public slots:
     void slotBtnClicked();
 
 signals:
+    // The current value changed by the knob or a click: QVariant(int).
     void signalValueChanged(QVariant value);
+    // The edit ended (Enter, Return, Escape, or after a click).
     void signalEditFinished();
 
 protected:

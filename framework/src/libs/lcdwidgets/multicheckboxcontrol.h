@@ -16,6 +16,7 @@ class LCDWIDGETS_EXPORT MultiCheckBoxControl : public MultiWidgetControl
 {
     Q_OBJECT
 public:
+    // No boxes; a transparent background.
     explicit MultiCheckBoxControl(QWidget* parent = nullptr);
     ~MultiCheckBoxControl() override;
 
@@ -27,16 +28,22 @@ public:
     int getCheckStatus(int value) const;
     // Checks exactly the boxes whose values are listed (silently) and keeps the list.
     void setCurrentData(QVector<int> values);
+    // The list last given to setCurrentData() (the user's flips do not change it).
     QVector<int> getCurrentData() const;
+    // Icon size of every box; a negative side is refused
+    // ("MultiCheckBoxControl::setIconSize: invalid size <w>x<h>").
     void setIconSize(QSize size) const;
     // Text and indicator size; sizes below 1 are refused.
     void setFontSize(int size);
+    // Disables (or enables) every box.
     void setContentDisabled(bool disabled) const;
     // The focused box flips.
     void enterPressed() const;
 
 signals:
+    // The user flipped a box: its value and new state.
     void signalValueChanged(int value, bool checked);
+    // Escape ended the edit.
     void signalCloseEditStatus();
 
 protected:

@@ -25,12 +25,15 @@ namespace Widget {
 // One selectable button.
 struct LCDWIDGETS_EXPORT ItemSelectInfo
 {
+    // The button's text.
     QString text;
+    // The button's icon.
     QIcon icon;
     // Reported when the button is chosen; kept as the button's "MarkValue" property.
     QVariant value;
 
     ItemSelectInfo() = default;
+    // A button with text `t`, icon `i` and value `v`.
     ItemSelectInfo(QString t, QIcon i, QVariant v) : text(std::move(t)), icon(std::move(i)), value(std::move(v)) {}
 };
 
@@ -54,15 +57,20 @@ public:
     // as the text needs. n below kMinButtonSize or above kMaxButtonSize is
     // refused ("Invalid button size:").
     static constexpr int kMinButtonSize = 3;
+    // Largest n setBtnSize() takes.
     static constexpr int kMaxButtonSize = 1024;
+    // See above (n in px).
     void setBtnSize(int n);
     // Position of `button`; -1 when it is not one of this row's.
     int getIndex(QToolButton* button) const;
+    // Number of buttons.
     int count() const;
     // The remembered (focused) button's position.
     int currentIndex() const;
+    // The button at `index`; null for a bad index.
     QToolButton* button(int index) const;
 
+    // The buttons' focus and keys as described above (Up/Down, Enter/Return, Escape).
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 public slots:
@@ -70,7 +78,9 @@ public slots:
     void slotFocusChanged(QWidget* old, QWidget* now);
 
 signals:
+    // A button was chosen (press or click): its value.
     void signalSelectBtnClicked(QVariant value);
+    // Escape ended the edit.
     void signalEditFinished();
 
 private:
@@ -88,14 +98,21 @@ class LCDWIDGETS_EXPORT MultipleDialog : public QDialog
 {
     Q_OBJECT
 public:
+    // A modal, frameless dialog ("isMultipleDialog") with the buttons of `infos`, the focus
+    // starting on `index`; rect: the host rectangle it is sized from.
     MultipleDialog(int index, std::vector<ItemSelectInfo> const& infos, QRect rect, QWidget* parent = nullptr);
     ~MultipleDialog() override;
 
+    // MultipleSelectBtn::setBtnText(): a bad index is logged
+    // ("MultipleSelectBtn::setBtnText: invalid index <index>").
     void setBtnText(int index, QString text);
+    // Position of `button`; -1 when it is not one of the dialog's.
     int getIndex(QToolButton* button) const;
     // Three fifths of the host rectangle's width, two fifths of its height.
     int getReminderDialogWidth() const;
+    // The dialog's height in px.
     int getReminderDialogHeight() const;
+    // The row of buttons (owned by the dialog).
     MultipleSelectBtn* selectBtn() const;
 
     // Logs "[dialog] exec finish with " and the result.
@@ -104,10 +121,13 @@ public:
     void reject() override;
 
 public slots:
+    // MultipleSelectBtn::slotFocusChanged() of the row.
     void slotFocusChanged(QWidget* old, QWidget* now);
 
 signals:
+    // A button was chosen: its value (the dialog then accepts).
     void signalSelectBtnClicked(QVariant value);
+    // The dialog was left without a choice (rejected).
     void signalEditFinished();
 
 protected:

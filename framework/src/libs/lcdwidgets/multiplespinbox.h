@@ -48,24 +48,38 @@ class NQSpinBox;
 class LCDWIDGETS_EXPORT MultipleSpinBoxItem : public QFrame
 {
     Q_OBJECT
+    // The item's title.
     Q_PROPERTY(QString title READ title WRITE setTitle)
+    // Whether the item is marked as the current one ("multipleItemCurrent").
     Q_PROPERTY(bool current READ isCurrent WRITE setCurrent)
 public:
+    // An item with `title` and a spin box showing `suffix`; text 20 px. Usually made by
+    // MultipleSpinBox::addItem().
     MultipleSpinBoxItem(QString const& title, SuffixType suffix = SuffixNone, QWidget* parent = nullptr);
     ~MultipleSpinBoxItem() override;
 
+    // The item's title.
     QString title() const;
+    // The item's title.
     void setTitle(QString const& title);
+    // The item's spin box (owned by the item).
     NQSpinBox* spinBox() const;
+    // The item's title label.
     QLabel* titleLabel() const;
     // Range and step as checked by MultipleSpinBox::addItem; no signal.
     void setRange(int minimum, int maximum);
+    // Change per knob step of level 1 (QSpinBox's rule: a negative step is ignored).
     void setSingleStep(int step);
     // Clamped, no signal.
     void setValue(int value);
+    // The spin box's value.
     int value() const;
+    // Marks the item as current (theme property "multipleItemCurrent"); no signal.
     void setCurrent(bool current);
+    // Whether the item is marked as current.
     bool isCurrent() const;
+    // Pixel size of the title and the value; outside 1..512 refused ("[MultipleSpinBoxItem]
+    // setFontSize: font size <size> refused"). The spin box's width follows.
     void setFontSize(int size);
 
 private:
@@ -77,15 +91,23 @@ class LCDWIDGETS_EXPORT MultipleSpinBox : public CommonItemType
 {
     Q_OBJECT
 public:
+    // An empty list, no right icon.
     explicit MultipleSpinBox(QWidget* parent = nullptr);
     ~MultipleSpinBox() override;
 
+    // Appends an item with its range, single step, value (clamped) and unit; returns it
+    // (owned by the row), or null when the range is refused (see above). No signal.
     MultipleSpinBoxItem* addItem(QString const& title, int minimum, int maximum, int step = 1, int value = 0,
                                  SuffixType suffix = SuffixNone);
+    // Removes every item (a running edit ends first).
     void clear();
+    // Number of items.
     int count() const;
+    // The item at `index`; null (and logged) for a bad index.
     MultipleSpinBoxItem* item(int index) const;
+    // Sets one item's value, clamped, without a signal; a bad index is logged.
     void setValue(int index, int value);
+    // One item's value; 0 (and logged) for a bad index.
     int value(int index) const;
 
     void setLabelValue(QVariant value, int mode = 0) override;
@@ -100,6 +122,7 @@ public:
     // Whether the knob is changing the current item's value.
     bool isItemEditing() const;
 
+    // The items' spin boxes' keys during an item's edit: Return, Enter and Escape end it.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected:

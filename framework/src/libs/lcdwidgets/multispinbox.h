@@ -40,17 +40,24 @@ class NQSpinBox;
 class LCDWIDGETS_EXPORT MultiSpinBox : public CommonItemType
 {
     Q_OBJECT
+    // The fields' captions, one field each (1 to kMaxFields).
     Q_PROPERTY(QStringList captions READ captions WRITE setCaptions)
 public:
+    // Most fields a row takes.
     static constexpr int kMaxFields = 8;
 
     // Fields "X", "Y", "W", "H" unless others are given.
     explicit MultiSpinBox(QWidget* parent = nullptr);
+    // One field per caption, each 0..9999 with a single step of 1; a list of no or more
+    // than 8 captions is logged (see setCaptions()) and "X", "Y", "W", "H" are used.
     explicit MultiSpinBox(QStringList const& captions, QWidget* parent = nullptr);
     ~MultiSpinBox() override;
 
+    // Rebuilds the fields, one per caption; refused for no or more than 8 captions.
     void setCaptions(QStringList const& captions);
+    // The fields' captions.
     QStringList captions() const;
+    // Number of fields.
     int count() const;
 
     void setLabelValue(QVariant value, int mode = 0) override;
@@ -65,10 +72,15 @@ public:
     void setContentDisabled(bool disabled) const override;
     void setContentFontSize(int size) override;
 
+    // One field's range (the value is clamped silently); min > max or a bad index refused.
     void setFieldRange(int index, int minimum, int maximum);
+    // One field's single step; a step below 1 or wider than the range is refused.
     void setFieldSingleStep(int index, int step);
+    // One field's value, clamped, without a signal; a bad index is logged.
     void setValue(int index, int value);
+    // One field's value; 0 (and logged) for a bad index.
     int value(int index) const;
+    // Every field's value, in order.
     QList<int> values() const;
     // Field being edited; -1 while not editing.
     int currentField() const;

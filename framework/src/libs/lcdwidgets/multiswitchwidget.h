@@ -16,6 +16,7 @@ class LCDWIDGETS_EXPORT MultiSwitchWidget : public MultiWidgetControl
 {
     Q_OBJECT
 public:
+    // No switches.
     explicit MultiSwitchWidget(QWidget* parent = nullptr);
     ~MultiSwitchWidget() override;
 
@@ -25,11 +26,20 @@ public:
     void setCurrentData(int value, int on);
     // The state of the switch with that value; false if none.
     bool getCurrentData(int value) const;
+    // Shows or hides the switch with that value (an unknown value changes nothing).
     void setItemVisible(int value, bool visible);
+    // Number of switches not hidden.
     int visibleWidgetCount() const;
+    // Size of every switch, now and for those added later; a height below 1 or a negative
+    // width is refused ("MultiSwitchWidget::setSwitchSize: invalid size <w>x<h>").
     void setSwitchSize(QSize size);
+    // Pixel size of the labels, now and later; below 1 refused
+    // ("MultiSwitchWidget::setContentFontSize: invalid font size <size>").
     void setContentFontSize(int size);
+    // A named colour for the tracks when on, now and later; an invalid name is refused
+    // ("MultiSwitchWidget::setSwitchColor: invalid colour").
     void setSwitchColor(QString const& color);
+    // SwitchWidget::setContentDisabled() on every switch.
     void setContentDisabled(bool disabled) const;
     // The focused switch flips.
     void enterPressed() const;
@@ -37,7 +47,9 @@ public:
     void singleItemEnterPressed();
 
 signals:
+    // A switch was toggled: its value and 1 (on) or 0.
     void signalValueChanged(int value, int on);
+    // The edit ended (Escape, or singleItemEnterPressed()).
     void signalCloseEditStatus();
 
 protected:

@@ -28,6 +28,7 @@ enum e_WidgetType {
     e_SwitchWidget = 3, // SwitchWidget
 };
 
+// The children of a grouped control: (kind, widget) in display order.
 using MultiWidgetList = QList<QPair<e_WidgetType, QWidget*>>;
 
 class LCDWIDGETS_EXPORT MultiWidgetControl : public QFrame
@@ -36,8 +37,10 @@ class LCDWIDGETS_EXPORT MultiWidgetControl : public QFrame
 public:
     // User data ids of the children.
     static constexpr int kValueDataId = 256;
+    // User data id of an icon-only button's text.
     static constexpr int kTextDataId = 257;
 
+    // An empty row (margins and spacing 0).
     explicit MultiWidgetControl(QWidget* parent = nullptr);
     ~MultiWidgetControl() override;
 
@@ -46,6 +49,8 @@ public:
     // Spacing between the children; a negative spacing, or one above kMaxSpacing
     // pixels, is refused.
     static constexpr int kMaxSpacing = 4096;
+    // Spacing in px between the children, 0..kMaxSpacing; another value is refused
+    // ("MultiWidgetControl::setSpacing: invalid spacing <n>").
     void setSpacing(int spacing);
     // A stretch at the end of the row.
     void addStretch();
@@ -58,6 +63,7 @@ public:
     // The knob's focus step from the focused child (nothing when no child has focus).
     void setUpDownPressed(bool up);
 
+    // A child's key press goes to filterKey(); consumed when the row acted on it.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected:

@@ -56,6 +56,7 @@ class LCDWIDGETS_EXPORT MutilProgressBarDialog : public QDialog
 {
     Q_OBJECT
 public:
+    // A task's state: running until the host ends it as a success or a failure.
     enum TaskState {
         TaskInvalid = -1, // no such task
         TaskRunning = 0,
@@ -64,50 +65,73 @@ public:
     };
     Q_ENUM(TaskState)
 
+    // Most tasks a dialog takes; addTask() refuses more.
     static constexpr int kMaxTasks = 64;
 
+    // rect: the host rectangle the dialog is sized from and centred on (an empty one is
+    // logged and replaced by 800x480). No task, no title; the OK button appears at the end.
     explicit MutilProgressBarDialog(QRect rect, QWidget* parent = nullptr);
     ~MutilProgressBarDialog() override;
 
+    // The title above the tasks; an empty title hides it (the default).
     void setTitle(QString const& title);
+    // The title above the tasks.
     QString title() const;
 
     // Adds a running task at 0 % and returns its index, or -1 when refused.
     int addTask(QString const& label);
     // Replaces every task by one per label (refused labels are skipped).
     void setTasks(QStringList const& labels);
+    // Removes every task and resets the counts, without signals.
     void clearTasks();
+    // Number of tasks.
     int taskCount() const;
+    // The task's label; empty for a bad index.
     QString taskLabel(int index) const;
 
     // The task's progress, 0 to 100; a running task only.
     void setTaskValue(int index, int percent);
     // Ends a running task.
     void setTaskSucceeded(int index);
+    // Shows `reason` in red at the right of the bar ("Failure" when empty).
     void setTaskFailed(int index, QString const& reason = QString());
 
+    // The task's state; TaskInvalid for a bad index.
     TaskState taskState(int index) const;
     // The task's value, or -1 for a bad index.
     int taskValue(int index) const;
+    // Number of tasks ended as a success.
     int succeededCount() const;
+    // Number of tasks ended as a failure.
     int failedCount() const;
     // Whether there is at least one task and none is running.
     bool allEnded() const;
+    // The summary line as shown (empty without tasks).
     QString summaryText() const;
 
     // The task list's scroll position in pixels and its maximum.
     int scrollValue() const;
+    // The largest scroll position (0 while every task fits).
     int scrollMaximum() const;
 
+    // The dialog's width in px (11/16 of the host's width).
     int getDialogWidth() const;
+    // The dialog's height in px (4/5 of the host's height).
     int getDialogHeight() const;
+    // The text size in px derived from the host rectangle (its width / 37.5).
     float getFontSize() const;
+    // Whether exec() is running; safe to poll from any thread.
     bool isExec() const;
 
+    // Runs the dialog modally; without a task it warns "[MutilProgressBarDialog] exec: no
+    // task: only the host can close the dialog". A second run while one is under way is
+    // refused ("[MutilProgressBarDialog] exec: already running, refused"), Rejected.
     int exec() override;
 
 signals:
+    // A task ended (once per task).
     void signalTaskEnded(int index, bool succeeded);
+    // The last running task ended: the counts (after that task's signalTaskEnded).
     void signalAllEnded(int succeeded, int failed);
 
 protected:

@@ -38,35 +38,48 @@ namespace Widget {
 class LCDWIDGETS_EXPORT NDoubleLineEdit : public QLineEdit
 {
     Q_OBJECT
+    // Digits after the decimal point, 0..6.
     Q_PROPERTY(int decimals READ decimals WRITE setDecimals)
+    // Change per knob step of level 1.
     Q_PROPERTY(double singleStep READ singleStep WRITE setSingleStep)
+    // The value (set without a signal).
     Q_PROPERTY(double value READ value WRITE setValue)
 public:
+    // 0..100, 1 decimal, single step 0.1, value 0.
     explicit NDoubleLineEdit(QWidget* parent = nullptr);
     ~NDoubleLineEdit() override;
 
     // minimum <= maximum, both finite; the value is clamped into the new range.
     void setRange(double minimum, double maximum);
+    // Lower bound of the range (default 0).
     double minimum() const;
+    // Upper bound of the range (default 100).
     double maximum() const;
     // 0..6; the value is rounded to the new number of decimals.
     void setDecimals(int decimals);
+    // Digits after the decimal point (default 1).
     int decimals() const;
     // 0 < step <= maximum - minimum (a step of 0 is allowed on an empty range).
     void setSingleStep(double step);
+    // Change per knob step of level 1 (default 0.1).
     double singleStep() const;
     // Sets the value (clamped, rounded to the decimals) without emitting.
     void setValue(double value);
+    // The value (within the range, rounded to the decimals).
     double value() const;
     // Step of one knob detent at `level`.
     double stepFor(float level) const;
+    // Whether an edit runs.
     bool isEditing() const;
     // Ends a running edit as Return does (nothing when not editing).
     void finishEdit();
 
 signals:
+    // The knob or a typed complete value changed the value during an edit.
     void signalValueChanged(double value);
+    // An edit began (the line edit took the focus).
     void signalEditStarted();
+    // The edit ended (Return, Enter, Escape or the focus lost); once per edit.
     void signalEditFinished();
 
 protected:

@@ -29,8 +29,11 @@ class IPEdit;
 struct NetworkInfo
 {
     int mode = 0; // 0 manual, any other value DHCP (the chooser's index)
+    // IPv4 address, dotted.
     std::string ip;
+    // Subnet mask, dotted.
     std::string mask;
+    // Gateway address, dotted.
     std::string gateway;
     std::string mac; // display only
 };
@@ -39,30 +42,46 @@ class LCDWIDGETS_EXPORT NetworkSettings : public QWidget
 {
     Q_OBJECT
 public:
+    // Manual mode, empty addresses and MAC.
     explicit NetworkSettings(QWidget* parent = nullptr);
     ~NetworkSettings() override;
 
     // Shows the host's settings without applying anything.
     void setNetworkInfo(NetworkInfo const& info);
+    // Sets the captions, "Manual" and the buttons' texts again in the current language.
     void retranslateUi();
 
     // The page's parts, for the host's wiring and for tests.
     FocusComboBox* modeChooser() const;
+    // The IP address editor.
     IPEdit* ipEdit() const;
+    // The subnet mask editor.
     IPEdit* maskEdit() const;
+    // The gateway editor.
     IPEdit* gatewayEdit() const;
+    // "Restore Defaults" (signalResetNetwork()).
     QPushButton* resetButton() const;
+    // "Apply" (signalApplyNetwork()).
     QPushButton* applyButton() const;
+    // "Enter", for the host to connect.
     QPushButton* enterButton() const;
+    // "Cancel", for the host to connect.
     QPushButton* cancelButton() const;
+    // The MAC address shown.
     QString macText() const;
 
+    // The page's keys, as described above.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 signals:
+    // "Apply" (or choosing DHCP): the mode and the three addresses as typed (not checked),
+    // and the MAC shown.
     void signalApplyNetwork(LCD::Widget::NetworkInfo const& info);
+    // "Restore Defaults": the host should send its defaults (setNetworkInfo()).
     void signalResetNetwork();
+    // Typing into one of the address editors began.
     void signalEditingStarted();
+    // Typing into one of the address editors ended.
     void signalEditingFinished();
 
 protected:

@@ -18,10 +18,14 @@ namespace Widget {
 class LCDWIDGETS_EXPORT NQDualLineEdit : public QFrame
 {
     Q_OBJECT
+    // The text between the two values ("×" by default).
     Q_PROPERTY(QString separator READ separator WRITE setSeparator)
+    // Change per knob step of level 1 (default 1).
     Q_PROPERTY(int singleStep READ singleStep WRITE setSingleStep)
+    // The two values: width() the first, height() the second.
     Q_PROPERTY(QSize value READ value WRITE setValue)
 public:
+    // 0 × 0, both fields 0..9999; the edit starts with the focus on the first field.
     explicit NQDualLineEdit(QWidget* parent = nullptr);
     ~NQDualLineEdit() override;
 
@@ -32,22 +36,33 @@ public:
     QString text() const;
     // Sets both values (clamped to their ranges) without emitting.
     void setValue(QSize value);
+    // The two values: width() the first, height() the second.
     QSize value() const;
 
     // Range of both fields (default 0..9999); width() is the first field.
     void setRange(int minimum, int maximum);
+    // Range of one field (0 or 1), the value clamped silently; a maximum below the minimum
+    // is taken as the minimum; another field is refused ("[NQDualLineEdit] field index out
+    // of range: <field>").
     void setFieldRange(int field, int minimum, int maximum);
+    // Change per knob step of level 1; a step below 1 is ignored.
     void setSingleStep(int step);
+    // Change per knob step of level 1.
     int singleStep() const;
+    // The text between the two values.
     void setSeparator(QString const& separator);
+    // The text between the two values.
     QString separator() const;
 
     // 0 = first field, 1 = second; -1 while not editing.
     int currentField() const;
+    // Whether an edit runs (currentField() >= 0).
     bool isEditing() const;
 
 signals:
+    // The knob changed a value: both values.
     void signalValueChanged(QSize value);
+    // The edit ended (press on the second field, Escape, or the focus lost); once per edit.
     void signalEditFinished();
 
 protected:

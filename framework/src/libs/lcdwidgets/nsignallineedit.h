@@ -16,7 +16,7 @@
 // keeps it) unless a slot has moved it already.
 // Knob turns (Up / Down) are swallowed while editing and go to the page otherwise.
 //
-// Bad input: setMaxLength with a length below 1 is refused and logged at warning
+// Bad input: setTextMaxLength with a length below 1 is refused and logged at warning
 // level as "[NSignalLineEdit] setTextMaxLength: <n> is not a length, ignored".
 //
 // Theme: "isSignalLineEdit" (true); "lineEditEditing" is true while an edit runs.
@@ -33,14 +33,20 @@ namespace Widget {
 class LCDWIDGETS_EXPORT NSignalLineEdit : public QLineEdit
 {
     Q_OBJECT
+    // Whether an edit starts with the focus (true) or with the press (false).
     Q_PROPERTY(bool editOnFocus READ editOnFocus WRITE setEditOnFocus)
 public:
+    // Empty; edits start with the focus.
     explicit NSignalLineEdit(QWidget* parent = nullptr);
     ~NSignalLineEdit() override;
 
+    // true (default): an edit starts with the focus; false: with Return / Enter.
     void setEditOnFocus(bool on);
+    // Whether an edit starts with the focus.
     bool editOnFocus() const;
+    // Maximum length of the text (QLineEdit's, default 32767); below 1 refused (see above).
     void setTextMaxLength(int length);
+    // Whether an edit runs.
     bool isEditing() const;
     // Starts an edit (takes the focus when needed); nothing if one runs already.
     void startEdit();
@@ -48,10 +54,15 @@ public:
     void finishEdit();
 
 signals:
+    // The line edit got the focus (before signalEditStarted()).
     void signalFocusIn();
+    // The line edit lost the focus (after signalEditFinished()).
     void signalFocusOut();
+    // An edit began.
     void signalEditStarted();
+    // The text changed during an edit (typed or set).
     void signalTextEdited(QString const& text);
+    // The edit ended (once per edit): the text reached.
     void signalEditFinished(QString const& text);
 
 protected:

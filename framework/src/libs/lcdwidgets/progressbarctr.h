@@ -23,27 +23,35 @@ namespace Widget {
 class LCDWIDGETS_EXPORT ProgressBarCtr : public QWidget
 {
     Q_OBJECT
+    // Number of tasks (the bar runs 0..100 × count).
     Q_PROPERTY(int count READ count WRITE setCount)
+    // The bar's value.
     Q_PROPERTY(double currentValue READ currentValue WRITE setCurrentValue)
 public:
+    // rect: the host rectangle; the bar is 5/8 of its width and 1/10 of its height. One
+    // task, range 0..100, empty.
     explicit ProgressBarCtr(QRect rect, QWidget* parent = nullptr);
     ~ProgressBarCtr() override;
 
     // Number of tasks (0 counts as 1). Negative counts are refused; counts whose
     // range would not fit an int are clamped.
     void setCount(int n);
+    // Number of tasks (1 by default).
     int count() const;
 
     // Sets the bar to v (truncated, kept within the bar's range) and shows the current
     // task's percentage v / count; a percentage of exactly 100 finishes the display
     // (setFinish()).
     void setCurrentValue(double v);
+    // The bar's value (an integer). setCurrentValue() refuses NaN with the warning
+    // "[ProgressBarCtr] progress value is not a number".
     double currentValue() const;
 
     // Green tr("Succeed"), bar full.
     void setFinish();
     // Red tr("Failure") (or `text`), bar empty.
     void setError();
+    // Red `text`, bar empty.
     void setError(QString text);
     // White `text`, bar empty.
     void setInfo(QString text);
@@ -61,6 +69,7 @@ public:
 
     // Size of the reminder dialog that hosts the bar, from the same rectangle.
     int getReminderDialogWidth() const;
+    // Its height in px: 3/5 of the rectangle's height (the width: 11/16 of its width).
     int getReminderDialogHeight() const;
 
     // --- Variants for special progress sequences (same colours and texts) ---

@@ -39,29 +39,40 @@ namespace Widget {
 class LCDWIDGETS_EXPORT QMLineEdit : public QLineEdit
 {
     Q_OBJECT
+    // The characters the knob offers, in order.
     Q_PROPERTY(QString characterSet READ characterSet WRITE setCharacterSet)
+    // Maximum length of the text, 1..32767 (default 16).
     Q_PROPERTY(int textMaxLength READ textMaxLength WRITE setTextMaxLength)
 public:
+    // Empty, maximum length 16, the default character set.
     explicit QMLineEdit(QWidget* parent = nullptr);
     ~QMLineEdit() override;
 
+    // " ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-_."
     static QString defaultCharacterSet();
+    // The characters the knob offers, in order (duplicates dropped); an empty set is refused.
     void setCharacterSet(QString const& characters);
+    // The characters the knob offers.
     QString characterSet() const;
     // Maximum length of the text (default 16); a longer text is cut.
     void setTextMaxLength(int length);
+    // Maximum length of the text.
     int textMaxLength() const;
     // Sets the text without emitting (cut to the maximum length).
     void setValueText(QString const& text);
     // Position of the character the knob works on; -1 while not editing.
     int editPosition() const;
+    // Whether an edit runs (between signalEditStarted() and signalEditFinished()).
     bool isEditing() const;
     // Ends a running edit as Escape does.
     void finishEdit();
 
 signals:
+    // An edit began (the editor took the focus).
     void signalEditStarted();
+    // The text changed during an edit (knob or typed keys); not emitted by setValueText().
     void signalTextChanged(QString const& text);
+    // The edit ended (once per edit): the text reached.
     void signalEditFinished(QString const& text);
 
 protected:

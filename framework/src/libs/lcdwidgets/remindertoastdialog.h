@@ -28,14 +28,21 @@ public:
     // Modal toasts; `ms` is the display time (negative counts as 0). An empty text
     // is refused (nothing shown, QDialog::Rejected returned).
     static int information(QWidget* parent, QString const& text, QRect rect, int const& ms = 2000);
+    // With the warning icon. Each helper logs an empty text as "[ReminderToastDialog]
+    // <helper> text is empty: nothing shown". information(): the information icon.
     static int warning(QWidget* parent, QString const& text, QRect rect, int const& ms = 2000);
+    // With the error icon.
     static int error(QWidget* parent, QString const& text, QRect rect, int const& ms = 2000);
+    // With the success icon.
     static int prosper(QWidget* parent, QString const& text, QRect rect, int const& ms = 2000);
 
+    // The toast's text (wrapped).
     void setDialogText(QString const& text);
+    // The toast's text.
     QString dialogText() const;
     // Display time in ms, counted from showing (negative counts as 0).
     void setDialgTipsTime(int ms);
+    // Display time in ms (2000 by default).
     int dialogTipsTime() const;
     // Shows the icon of `type` (0 to 4); other values are refused.
     void setDialgIcon(LCD::Widget::Enum::DialogType type);
@@ -43,8 +50,11 @@ public:
     void setBStartTimer(bool start);
     // A negative size is refused; one beyond the host rectangle is cut to it.
     void setDialogSize(QSize size);
+    // The dialog's width in px (5/8 of the host's width, or the setDialogSize() width).
     int getReminderToastDialogWidth() const;
+    // The dialog's height in px (2/5 of the host's height, or the setDialogSize() height).
     int getReminderToastDialogHeight() const;
+    // The text size in px derived from the host rectangle (its width / 37.5).
     float getFontSize() const;
 
     // Runs the toast modally; a second run while one is under way is refused
@@ -52,6 +62,7 @@ public:
     int exec() override;
 
 public slots:
+    // Closes the toast (the display timer's end).
     void slotCloseDialog();
 
 protected:

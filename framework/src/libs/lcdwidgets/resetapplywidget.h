@@ -24,6 +24,7 @@ namespace Widget {
 class LCDWIDGETS_EXPORT ResetApplyWidget : public QWidget
 {
     Q_OBJECT
+    // Whether the bar's buttons are enabled.
     Q_PROPERTY(bool enable READ getEnable WRITE setEnable)
 public:
     // `type` 1: Reset only, 2: Apply only, 3: both. The bar is created without a
@@ -41,16 +42,23 @@ public:
 
     // Enables or disables every button of the bar.
     void setEnable(bool enable);
+    // The state last given to setEnable() (true by default).
     bool getEnable() const;
     // Re-polishes both buttons (after a style property of theirs changed).
     void polishBtnStyle();
+    // Sets the buttons' texts ("Reset", "Apply") again in the current language.
     void retranslateUi();
 
+    // The buttons' key presses, as described above. Without a widget to hand a key to, the
+    // key stops at the bar with the warning "[ResetApplyWidget] key delegate is nullptr".
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 signals:
+    // The Reset button was clicked.
     void signalResetBtnClicked();
+    // The Apply button was clicked.
     void signalApplyBtnClicked();
+    // Declared for the host; the bar itself never emits it.
     void signalBackBtnClicked();
 
 protected:
@@ -68,11 +76,15 @@ class LCDWIDGETS_EXPORT TypeReset : public QWidget
 {
     Q_OBJECT
 public:
+    // A centred "Reset" button.
     explicit TypeReset(QWidget* parent = nullptr);
+    // The "Reset" button.
     QPushButton* resetButton() const { return m_reset; }
+    // Sets the button's text again in the current language.
     void retranslateUi();
 
 signals:
+    // The button was clicked.
     void signalResetBtnClicked();
 
 protected:
@@ -87,11 +99,15 @@ class LCDWIDGETS_EXPORT TypeApply : public QWidget
 {
     Q_OBJECT
 public:
+    // A centred "Apply" button.
     explicit TypeApply(QWidget* parent = nullptr);
+    // The "Apply" button.
     QPushButton* applyButton() const { return m_apply; }
+    // Sets the button's text again in the current language.
     void retranslateUi();
 
 signals:
+    // The button was clicked.
     void signalApplyBtnClicked();
 
 protected:
@@ -106,13 +122,19 @@ class LCDWIDGETS_EXPORT TypeResetApply : public QWidget
 {
     Q_OBJECT
 public:
+    // "Reset" and "Apply" side by side, centred.
     explicit TypeResetApply(QWidget* parent = nullptr);
+    // The "Reset" button.
     QPushButton* resetButton() const { return m_reset; }
+    // The "Apply" button.
     QPushButton* applyButton() const { return m_apply; }
+    // Sets the buttons' texts again in the current language.
     void retranslateUi();
 
 signals:
+    // The "Reset" button was clicked.
     void signalResetBtnClicked();
+    // The "Apply" button was clicked.
     void signalApplyBtnClicked();
 
 protected:

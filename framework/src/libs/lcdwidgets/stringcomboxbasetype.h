@@ -24,6 +24,7 @@ public:
     // Item data role that marks an entry as hidden.
     static constexpr int kHiddenRowRole = 252;
 
+    // Constructs the row; derived rows build their value widget.
     explicit StringComboxBaseType(QWidget* parent = nullptr);
     ~StringComboxBaseType() override;
 

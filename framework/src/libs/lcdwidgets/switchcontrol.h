@@ -19,11 +19,14 @@ namespace Widget {
 class LCDWIDGETS_EXPORT SwitchControl : public QFrame
 {
     Q_OBJECT
+    // On (true) or off.
     Q_PROPERTY(bool toggle READ isToggled WRITE setToggle)
 public:
+    // Off, a white thumb on a translucent white track; no fixed size until setSwitchSize().
     explicit SwitchControl(QWidget* parent = nullptr);
     ~SwitchControl() override;
 
+    // Whether the switch is on (off by default).
     bool isToggled() const;
     // Sets the state and emits toggled(), also when the state does not change.
     void setToggle(bool checked);
@@ -34,6 +37,7 @@ public:
     void setCheckedColor(QColor color);
     // Track when disabled and on, while no checked colour is set.
     void setDisbaledColor(QColor color);
+    // Colour of the thumb (white by default).
     void setThumbColor(QColor color);
     // Height and width of the drawing; the widget gets the fixed size 2 x height by
     // height. A negative or zero height is refused.
@@ -42,10 +46,13 @@ public:
     // Whether the thumb's slide after a click is still running.
     bool isSliding() const;
 
+    // About 2 × height by height, from the current height.
     QSize sizeHint() const override;
+    // The same as sizeHint().
     QSize minimumSizeHint() const override;
 
 signals:
+    // The state was set (setToggle(), even to the same state) or flipped by a click.
     void toggled(bool checked);
 
 protected:
@@ -67,23 +74,35 @@ private:
 class LCDWIDGETS_EXPORT SwitchWidget : public QFrame
 {
     Q_OBJECT
+    // On (true) or off.
     Q_PROPERTY(bool toggle READ getToggle WRITE setToggle)
 public:
+    // An empty label and an off switch; the frame takes the focus (a light background then).
     explicit SwitchWidget(QWidget* parent = nullptr);
     ~SwitchWidget() override;
 
+    // SwitchControl::setToggle(): emits signalSwitchControlStatusChanged() even when unchanged.
     void setToggle(bool checked);
+    // Whether the switch is on.
     bool getToggle() const;
+    // The label on the left.
     void setLabelText(QString const& text);
+    // SwitchControl::setSwitchSize(): the switch becomes 2 × height by height px; a height
+    // below 1 is refused ("SwitchControl::setSwitchSize: invalid size <w>x<h>").
     void setSwitchSize(QSize size);
     // A named colour ("green", "#00bf4c") for the track when on; an invalid name is refused.
     void setSwitchColor(QString const& color);
+    // Dims the label and gives the switch the rows' disabled colours (or the enabled ones back).
     void setContentDisabled(bool disabled) const;
+    // Pixel size of the label's text; below 1 refused ("SwitchWidget::setContentFontSize:
+    // invalid font size <size>").
     void setContentFontSize(int size);
 
+    // The switch (owned by the widget).
     SwitchControl* switchControl() const;
 
 signals:
+    // The switch's toggled(checked).
     void signalSwitchControlStatusChanged(bool checked);
 
 private:

@@ -39,6 +39,7 @@ class LCDWIDGETS_EXPORT TextViewDialog : public QDialog
 {
     Q_OBJECT
 public:
+    // rect: the host rectangle the dialog is sized from; no title, no text.
     explicit TextViewDialog(QRect rect, QWidget* parent = nullptr);
     ~TextViewDialog() override;
 
@@ -47,27 +48,37 @@ public:
     // parent went away.
     static int showText(QWidget* parent, QString const& title, QString const& text, QRect rect);
 
+    // Longest text the dialog shows, in characters (1048576); setText() cuts the rest.
     static constexpr int maxTextLength() { return 1 << 20; }
 
     // The title above the text; an empty title hides the title row.
     void setTitle(QString const& title);
+    // The title above the text.
     QString title() const;
     // Plain text, wrapped to the view's width; the view returns to the start.
     void setText(QString const& text);
+    // The shown text (after any cut).
     QString text() const;
 
     // The scroll position, in pixels, and its maximum (0 while the text fits).
     int scrollValue() const;
+    // The largest scroll position in px (0 while the text fits).
     int scrollMaximum() const;
     // Pixels one knob step of level 1 scrolls (a text line).
     int lineStep() const;
 
+    // The dialog's width in px (3/4 of the host's width).
     int getTextViewDialogWidth() const;
+    // The dialog's height in px (4/5 of the host's height).
     int getTextViewDialogHeight() const;
+    // The text size in px derived from the host rectangle (its width / 37.5).
     float getFontSize() const;
     // Whether exec() is running; safe to poll from any thread.
     bool isExec() const;
 
+    // Runs the dialog modally: 1 (Enter/Return), 0 (Escape), -1 (parent destroyed). A
+    // second run while one is under way is refused ("[TextViewDialog] exec: already
+    // running, refused") and answers 0.
     int exec() override;
 
 protected:

@@ -19,6 +19,9 @@ class LCDWIDGETS_EXPORT ToastDialog : public QDialog
 {
     Q_OBJECT
 public:
+    // A top-most, frameless toast with `text` and the icon of `popupType` that closes after
+    // `ms` counted from construction (unless permanent). It always deletes itself when
+    // closed: create it with new.
     ToastDialog(QString const& text, unsigned int const& ms, int popupType = 2, bool permanent = false,
                 QWidget* parent = nullptr);
     ~ToastDialog() override;
@@ -28,11 +31,14 @@ public:
     static ToastDialog* createToastDialog(QString const& text, unsigned int const& ms, int popupType = 2,
                                           bool permanent = false, QWidget* parent = nullptr);
 
+    // The toast's text.
     void setToastText(QString const& text);
+    // The toast's text.
     QString toastText() const;
     // A permanent toast stays until its owner closes it; clearing the flag later
     // does not start a timer.
     void setPermanent(bool permanent);
+    // Whether the toast stays until its owner closes it.
     bool isPermanent() const;
     // 0 to 3; other values are refused.
     void setPopupType(int type);

@@ -33,8 +33,10 @@ namespace Widget {
 class LCDWIDGETS_EXPORT TypeColorAdjust : public CommonItemType
 {
     Q_OBJECT
+    // The colour, opaque (set silently).
     Q_PROPERTY(QColor color READ color WRITE setColor)
 public:
+    // Black, a 32×24 px swatch, no right icon.
     explicit TypeColorAdjust(QWidget* parent = nullptr);
     ~TypeColorAdjust() override;
 
@@ -47,7 +49,9 @@ public:
     void setContentDisabled(bool disabled) const override;
     void setContentFontSize(int size) override;
 
+    // Sets the colour silently (alpha dropped); an invalid colour is refused (see above).
     void setColor(QColor const& color);
+    // The colour (opaque; black by default).
     QColor color() const;
     // Channel being edited (0 red, 1 green, 2 blue); -1 while not editing.
     int currentChannel() const;

@@ -34,6 +34,8 @@ class LCDWIDGETS_EXPORT TypeDialogMenu : public StringComboxBaseType
 {
     Q_OBJECT
 public:
+    // homeFrame: the host's page frame whose rectangle sizes and places the menu (may be
+    // null); the menu is a top-level window owned by the row and deleted with it.
     explicit TypeDialogMenu(QWidget* parent = nullptr, LCD::MainWidgets::IHomeFrame* homeFrame = nullptr);
     ~TypeDialogMenu() override;
 
@@ -69,18 +71,26 @@ public:
     void setContentFontSize(int size) override;
     void setContentDisabled(bool disabled) const override;
 
+    // The menu's title text (empty by default).
     void setDialogTitle(QString const& title);
     // Sets the dynamic property `name` = true on the value label.
     void setTextLabelProperty(QString const& name);
+    // Whether the menu's last edit ended with Escape (the choice was left as it was).
     bool isKeyBackPressed() const;
+    // The menu the row opens (owned by the row).
     DialogMenuWidget* menuDialog() const;
     // The text the row shows.
     QString labelText() const;
 
 public slots:
+    // From the menu: re-emits signalSelectedChanged(text).
     void slotSelectedChanged(QString text);
+    // From the menu: re-emits signalSelectedIndexChanged(index).
     void slotSelectedIndexChanged(int index);
+    // From the menu: shows `text` in the row, then emits signalCurrentTextChanged(text).
     void slotCurrentChanged(QString text);
+    // From the menu: shows the entry's text and emits signalCurrentIndexChanged(index); an
+    // index past the entries is refused ("the index is bigger than _kvItemVec!").
     void slotCurrentIndexChanged(int index);
 
 private:

@@ -18,10 +18,13 @@ class LCDWIDGETS_EXPORT TypeDrawCropWidget : public CommonItemType
 {
     Q_OBJECT
 public:
+    // An empty drawing, no title, no icons.
     explicit TypeDrawCropWidget(QWidget* parent = nullptr);
     ~TypeDrawCropWidget() override;
 
+    // DrawGraphicsView::setItemInfo(): the template's rectangles.
     void setItemInfo(std::vector<ItemDataInfo> const& infos);
+    // DrawGraphicsView::setCropRectInfo(): a picture and its crop rectangles.
     void setCropRectInfo(CropRectInfoArray const& infos);
     // View height h minus the content font size (results below 1 are refused).
     void setCropViewHeight(int h);
@@ -30,9 +33,11 @@ public:
     int getWidgetRow() override;
     void editValue() override;
 
+    // The drawing's view (owned by the row).
     DrawGraphicsView* view() const;
 
 signals:
+    // The knob's press on the row; always false.
     void signalClicked(bool checked);
 
 private:

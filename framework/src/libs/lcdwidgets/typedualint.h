@@ -17,6 +17,8 @@ class LCDWIDGETS_EXPORT TypeDualInt : public CommonItemType
 {
     Q_OBJECT
 public:
+    // The editor is 70 px wide at the right of the row; each change is reported as
+    // signalValueChanged(QVariant(QSize)).
     explicit TypeDualInt(QWidget* parent = nullptr);
     ~TypeDualInt() override;
 
@@ -29,6 +31,7 @@ public:
     void setSingleStep(float step) override;
     void setContentDisabled(bool disabled) const override;
 
+    // The pair's editor (owned by the row).
     NQDualLineEdit* editor() const;
 
 private:

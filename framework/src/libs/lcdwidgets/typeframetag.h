@@ -26,20 +26,31 @@ namespace Widget {
 class LCDWIDGETS_EXPORT TypeFrameTag : public CommonItemType
 {
     Q_OBJECT
+    // The tag's text; empty hides the tag.
     Q_PROPERTY(QString tagText READ tagText WRITE setTagText)
+    // The caller's own tag colour (Custom kind).
     Q_PROPERTY(QColor tagColor READ tagColor WRITE setTagColor)
+    // The tag's kind.
     Q_PROPERTY(Kind tagKind READ tagKind WRITE setTagKind)
 public:
+    // The tag's kind: "frameTagKind" is "none", "program", "preview", "source" or "custom".
     enum Kind { None = 0, Program, Preview, Source, Custom };
     Q_ENUM(Kind)
 
+    // No tag (hidden, kind None), no right icon.
     explicit TypeFrameTag(QWidget* parent = nullptr);
     ~TypeFrameTag() override;
 
+    // setTagKind(kind), then setTagText(text).
     void setTag(QString const& text, Kind kind);
+    // The tag's text; empty hides the tag. The title is fitted to the room left.
     void setTagText(QString const& text);
+    // The tag's text.
     QString tagText() const;
+    // The tag's kind; Custom without a colour set is refused ("[TypeFrameTag] invalid tag
+    // colour"), as is a value outside Kind.
     void setTagKind(Kind kind);
+    // The tag's kind (None by default).
     Kind tagKind() const;
     // A caller's colour: kind becomes Custom.
     void setTagColor(QColor const& color);
@@ -51,9 +62,11 @@ public:
     void setContentDisabled(bool disabled) const override;
     void setContentFontSize(int size) override;
 
+    // The tag (owned by the row).
     QLabel* tagLabel() const;
 
 signals:
+    // The page's press on the row; always false.
     void signalClicked(bool checked);
 
 private:

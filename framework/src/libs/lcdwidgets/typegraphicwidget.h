@@ -25,19 +25,26 @@ namespace Widget {
 class LCDWIDGETS_EXPORT TypeGraphicWidget : public CommonItemType
 {
     Q_OBJECT
+    // The picture's file path.
     Q_PROPERTY(QString picture READ picturePath WRITE setPicture)
 public:
+    // An empty area ("graphicState" = "empty", object name "graphicArea"), no right icon.
     explicit TypeGraphicWidget(QWidget* parent = nullptr);
     ~TypeGraphicWidget() override;
 
     // Loads a picture file; returns false (and logs) when it cannot be read.
     bool setPicture(QString const& path);
+    // Shows a picture given in memory (the path is cleared); a null pixmap is refused.
     void setPixmap(QPixmap const& pixmap);
+    // Removes the picture ("graphicState" = "empty").
     void clearPicture();
+    // The file of the picture shown; empty without one or for a pixmap.
     QString picturePath() const;
+    // Whether a picture is shown.
     bool hasPicture() const;
     // The picture area: height h, width 16h/9 (the panel's frame shape).
     void setPictureHeight(int h);
+    // The picture area's size in px.
     QSize pictureAreaSize() const;
     // The picture as drawn (scaled to the area), null without one.
     QPixmap shownPixmap() const;
@@ -47,9 +54,11 @@ public:
     void editValue() override;
     void setContentDisabled(bool disabled) const override;
 
+    // The picture area (owned by the row).
     QWidget* pictureArea() const;
 
 signals:
+    // The page's press on the row; always false.
     void signalClicked(bool checked);
 
 private:

@@ -28,6 +28,7 @@ class LCDWIDGETS_EXPORT TypeInputBackupCombox : public TypeItemDoubleCombox
 {
     Q_OBJECT
 public:
+    // No inputs; haveArrow: whether the combos show their drop-down arrows.
     explicit TypeInputBackupCombox(QWidget* parent = nullptr, bool haveArrow = true);
     ~TypeInputBackupCombox() override;
 
@@ -43,17 +44,23 @@ public:
     void setRowHidden(int index, bool hidden) override;
 
     // --- The backup ---
+    // The backup's index (the same index as in the input list); -1 when empty.
     int backupIndex() const;
+    // The backup's text; empty when there is none.
     QString backupText() const;
+    // The backup's data for `role`.
     QVariant backupData(int role = Qt::UserRole) const;
     // -1 leaves the backup empty.
     void setBackupIndex(int index);
+    // Chooses the backup by text (refusals: see above).
     void setBackupText(QString const& text);
+    // Chooses the backup by user data (refusals: see above).
     void setBackupUserData(QVariant const& data);
     // Whether the entry is in the backup's list now (not hidden, not the input).
     bool isBackupCandidate(int index) const;
 
 signals:
+    // The backup moved: its index (-1: empty).
     void signalBackupIndexChanged(int index);
 
 private:

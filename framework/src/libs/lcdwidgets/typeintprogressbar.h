@@ -28,8 +28,10 @@ namespace Widget {
 class LCDWIDGETS_EXPORT TypeIntProgressBar : public CommonItemType
 {
     Q_OBJECT
+    // The value, clamped into the range.
     Q_PROPERTY(int value READ value WRITE setValue)
 public:
+    // Range 0..100, value 0 ("0%"), a bar 200 px wide, no right icon.
     explicit TypeIntProgressBar(QWidget* parent = nullptr);
     ~TypeIntProgressBar() override;
 
@@ -40,9 +42,13 @@ public:
     void setRange(float minimum, float maximum) override;
     void setContentDisabled(bool disabled) const override;
 
+    // The value, clamped into the range; no signal (the row reports nothing).
     void setValue(int value);
+    // The value (within the range).
     int value() const;
+    // Lower bound of the range (default 0).
     int minimum() const;
+    // Upper bound of the range (default 100).
     int maximum() const;
     // 0..100, as shown.
     int percent() const;
@@ -50,6 +56,7 @@ public:
     QString text() const;
     // Width of the bar in pixels (default 200); below 1 is refused.
     void setBarWidth(int width);
+    // The bar (owned by the row; it runs 0..1000 internally).
     QProgressBar* progressBar() const;
 
 private:

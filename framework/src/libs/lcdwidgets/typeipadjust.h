@@ -22,6 +22,7 @@ class LCDWIDGETS_EXPORT TypeIpAdjust : public CommonItemType
 {
     Q_OBJECT
 public:
+    // kind: 9 or 10, see above. The address starts empty.
     explicit TypeIpAdjust(QWidget* parent = nullptr, int kind = 9);
     ~TypeIpAdjust() override;
 
@@ -36,13 +37,19 @@ public:
     void setContentFontSize(int size) override;
     void setItemHeight(int height) override;
 
+    // Whether an octet's text was changed by the user (QLineEdit::isModified() of any field).
     bool isModified() const;
+    // setContentDisabled(!enabled).
     void setIpLineEditEnable(bool enabled) const;
+    // The address editor (owned by the row).
     IPLineEdit* lineEdit() const;
 
+    // Escape in the editor ends the edit (signalLineEditFinished, then signalEditFinished);
+    // the editor's key releases are swallowed.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 signals:
+    // The edit ended (the focus is back on the row's parent); signalEditFinished follows.
     void signalLineEditFinished();
 
 private:

@@ -16,6 +16,7 @@ class LCDWIDGETS_EXPORT TypeItemButtom : public CommonItemType
 {
     Q_OBJECT
 public:
+    // An empty value, icon hidden, the bar shown at 0..100 with its percentage; no right icon.
     explicit TypeItemButtom(QWidget* parent = nullptr);
     ~TypeItemButtom() override;
 
@@ -26,17 +27,27 @@ public:
     void setContentEnabled(bool enabled) override;
     void setContentFontSize(int size) override;
 
+    // The small icon (an image file, scaled to fit); a file that does not load is logged
+    // ("TypeItemButtom: cannot load image" and the file) and clears the icon.
     void setLabelIcon(QString image);
+    // Shows or hides the icon (hidden by default).
     void setIconVisible(bool visible);
+    // Shows or hides the progress bar.
     void setProgressBarVisible(bool visible);
     // Refused (with a warning) when minimum > maximum.
     void setProgressBarRange(int minimum, int maximum);
+    // The bar's value (QProgressBar's rules: outside the range ignored).
     void setProgressBarValue(int value);
+    // The row's user data (kept for the host).
     void setItemData(QVariant data);
+    // The row's user data (invalid by default).
     QVariant getUserData() const;
 
+    // The value label (owned by the row).
     QLabel* valueLabel() const;
+    // The icon label (owned by the row).
     QLabel* iconLabel() const;
+    // The progress bar (owned by the row).
     QProgressBar* progressBar() const;
 
 public slots:

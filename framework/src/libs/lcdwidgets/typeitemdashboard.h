@@ -27,6 +27,7 @@ class LCDWIDGETS_EXPORT TypeItemDashBoard : public CommonItemType
 {
     Q_OBJECT
 public:
+    // No dials, no title, no icons.
     explicit TypeItemDashBoard(QWidget* parent = nullptr);
     ~TypeItemDashBoard() override;
 
@@ -38,6 +39,8 @@ public:
     // The dial's value (the one its animation ends at), or an invalid QVariant for an
     // unknown key.
     QVariant getCurrentValue(int key);
+    // Shows or hides the dial with that key (a hidden chosen dial passes the choice on);
+    // an unknown key is refused ("[TypeItemDashBoard] setItemVisible: no dial with key").
     void setItemVisible(int key, bool visible);
     // Size of every dial (negative sizes are refused).
     void setItemSize(QSize size);
@@ -51,12 +54,16 @@ public:
 
     // The dial under `key`, or null; the chosen dial, or null.
     DashBoardWidget* dashBoard(int key) const;
+    // The chosen dial, or null.
     DashBoardWidget* currentDashBoard() const;
+    // The value label of the dial under `key`, or null.
     DashBoardLabel* dashBoardLabel(int key) const;
 
+    // The row's keys while it chooses a dial (see above); the dials' own keys pass untouched.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 signals:
+    // A dial reported a value (its signalValueChanged()): the dial's key and the value.
     void signalDashBoardValueChanged(int key, QVariant value);
 
 private:

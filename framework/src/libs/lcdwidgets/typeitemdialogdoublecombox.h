@@ -19,10 +19,13 @@ class LCDWIDGETS_EXPORT TypeItemDialogDoubleCombox : public DoubleComboxBaseType
 {
     Q_OBJECT
 public:
+    // Two empty menus ("firstMenu", "secondMenu") placed over `homeFrame` (may be null).
     explicit TypeItemDialogDoubleCombox(QWidget* parent = nullptr, LCD::MainWidgets::IHomeFrame* homeFrame = nullptr);
     ~TypeItemDialogDoubleCombox() override;
 
+    // The first menu row (owned by this row).
     TypeDialogMenu* firstMenu() const;
+    // The second menu row (owned by this row).
     TypeDialogMenu* secondMenu() const;
     // The menus' titles.
     void setDialogTitles(QString const& first, QString const& second);

@@ -15,10 +15,13 @@ class LCDWIDGETS_EXPORT TypeItemDoubleCombox : public DoubleComboxBaseType
 {
     Q_OBJECT
 public:
+    // Two empty combos ("firstCombox", "secondCombox"); haveArrow: their drop-down arrows.
     explicit TypeItemDoubleCombox(QWidget* parent = nullptr, bool haveArrow = true);
     ~TypeItemDoubleCombox() override;
 
+    // The first combo row (owned by this row).
     TypeStringCombox* firstCombox() const;
+    // The second combo row (owned by this row).
     TypeStringCombox* secondCombox() const;
 
 private:

@@ -21,6 +21,8 @@ class LCDWIDGETS_EXPORT TypeItemEdit : public CommonItemType
 {
     Q_OBJECT
 public:
+    // An empty field (object name "itemEditField") and a 32×32 px edit button
+    // ("isIconPwdBtn"); no right icon.
     explicit TypeItemEdit(QWidget* parent = nullptr);
     ~TypeItemEdit() override;
 
@@ -32,17 +34,27 @@ public:
     void setContentFontSize(int size) override;
     void setItemTitleWidth(int width) override;
 
+    // Masks the text (QLineEdit::Password) or shows it.
     void setPasswordMode(bool password);
+    // Text shown in grey while the field is empty.
     void setPlaceholderText(QString const& text);
+    // Fixes the field's size in px (then kept); a negative or too large size is refused
+    // ("[TypeItemEdit] setValueLabelSize: size <w>x<h> refused").
     void setValueLabelSize(QSize size);
+    // Fixes the edit button's size in px (default 32×32); bad sizes refused like above.
     void setIconButtonSize(QSize size);
 
+    // The text field (owned by the row).
     QLineEdit* lineEdit() const;
+    // The edit button (owned by the row).
     QPushButton* editButton() const;
 
+    // The field's keys while editing: Up/Down move the cursor, Enter, Return and Escape
+    // end the edit; a focus lost ends it once the focus has settled elsewhere.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 signals:
+    // The edit button was clicked (the host opens its keyboard).
     void signalEditBtnClicked();
 
 protected:

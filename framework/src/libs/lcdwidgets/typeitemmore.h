@@ -17,11 +17,15 @@ namespace Widget {
 class LCDWIDGETS_EXPORT TypeItemMore : public CommonItemType
 {
     Q_OBJECT
+    // The loading state (NotLoading by default).
     Q_PROPERTY(LoadingState loadingState READ loadingState WRITE setLoadingState)
 public:
+    // The content's loading state; the loading label's "loadingstate" property is "none",
+    // "loading", "succeeded" or "failed".
     enum LoadingState { NotLoading = 0, Loading, LoadSucceeded, LoadFailed };
     Q_ENUM(LoadingState)
 
+    // No value, no marks, NotLoading.
     explicit TypeItemMore(QWidget* parent = nullptr);
     ~TypeItemMore() override;
 
@@ -32,17 +36,25 @@ public:
 
     // Programme (on air) and preview marks.
     void setArea(bool programme, bool preview);
+    // Whether the programme or the preview mark shows.
     bool hasArea() const;
 
+    // Sets the state (see above); an unknown state is refused
+    // ("TypeItemMore::setLoadingState: unknown state <n>").
     void setLoadingState(LoadingState state);
+    // The loading state.
     LoadingState loadingState() const;
 
+    // The label that shows the animation or the broken-picture mark (24 × 24 px).
     QLabel* loadingLabel() const;
     // The loading animation; null until the first Loading state.
     QMovie* loadingMovie() const;
+    // The programme (on air) mark ("isPgmShow").
     QPushButton* programmeMark() const;
+    // The preview mark ("isPvwShow").
     QPushButton* previewMark() const;
 
+    // The loading animation's file, "../share/themes/default/images/icon_picture_loading.gif".
     static QString loadingImage();
 
 protected:

@@ -27,14 +27,18 @@ class LCDWIDGETS_EXPORT TypeItemMultiBtn : public StringComboxBaseType
 {
     Q_OBJECT
 public:
+    // No buttons, no right icon.
     explicit TypeItemMultiBtn(QWidget* parent = nullptr);
     ~TypeItemMultiBtn() override;
 
     // --- The list interface ---
     void addItem(QString const& text, QVariant const& userData = QVariant()) override;
+    // Appends a button with an icon and text.
     void addItem(QIcon const& icon, QString const& text, QVariant const& userData = QVariant());
+    // Appends a button with the icon drawn at `iconPos` inside it (NaN counts as 0).
     void addItem(QIcon const& icon, QPointF iconPos, QString const& text, QVariant const& userData = QVariant());
     void insertItem(int index, QString const& text, QVariant const& userData = QVariant()) override;
+    // Inserts a button with an icon and text at `index` (clamped to 0..count()).
     void insertItem(int index, QIcon const& icon, QString const& text, QVariant const& userData = QVariant());
     void removeItem(int index) override;
     void clear() override;
@@ -44,6 +48,7 @@ public:
     QString currentText() const override;
     void setCurrentText(QString text) override;
     QVariant currentData(int role = Qt::UserRole) const override;
+    // Makes the button with that value current, silently; an unknown value changes nothing.
     void setCurrentData(int value);
     void setCurrentUserData(QVariant data) override;
     int findData(QVariant const& data, int role = Qt::UserRole) const override;
@@ -59,15 +64,18 @@ public:
     void setBtnText(QVector<QPair<QString, int>> const& data);
     // One icon-only button a row (icon, (text, value)).
     void setBtnIcon(QVector<QPair<QIcon, QPair<QString, int>>> const& data);
+    // Shows or hides the first button with that value.
     void setBtnVisible(int value, bool visible);
 
     void setContentDisabled(bool disabled) const override;
     void setContentFontSize(int size) override;
     void editValue() override;
 
+    // The buttons (owned by the row).
     MultiBtnControl* multiBtnControl() const;
 
 signals:
+    // A button was chosen: its value, QVariant(int) (first of the signals above).
     void signalMultiBtnValueChanged(QVariant value);
 
 private:

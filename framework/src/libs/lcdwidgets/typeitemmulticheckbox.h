@@ -18,13 +18,19 @@ class LCDWIDGETS_EXPORT TypeItemMultiCheckBox : public CommonItemType
 {
     Q_OBJECT
 public:
+    // No boxes, no right icon.
     explicit TypeItemMultiCheckBox(QWidget* parent = nullptr);
     ~TypeItemMultiCheckBox() override;
 
+    // Appends one check box per (text, value) pair.
     void setCheckBoxData(QVector<std::pair<QString, int>> data);
+    // Sets every box with that value, silently: checked or not, or partially checked.
     void setCheckStatus(int value, bool checked, bool partial);
+    // The Qt::CheckState (as int) of the first box with that value; -1 if none.
     int getCheckStatus(int value) const;
+    // The list last given to setCurrentValue() (the user's flips do not change it).
     QVector<int> getCurrentValue() const;
+    // Checks exactly the boxes whose values are listed, silently.
     void setCurrentValue(QVector<int> values);
 
     // The check boxes' icon size.
@@ -33,13 +39,18 @@ public:
     void setContentDisabled(bool disabled) const override;
     void editValue() override;
 
+    // The boxes (owned by the row).
     MultiCheckBoxControl* checkBoxControl() const;
 
 public slots:
+    // Ends the edit: the page gets the focus, then signalMultiCheckBoxCloseEditStatus() and
+    // signalCloseEditStatus().
     void slotCloseEditStatus();
 
 signals:
+    // The user flipped a box: its value and new state.
     void signalMultiCheckBoxValueChanged(int value, bool checked);
+    // Escape ended the edit (before signalCloseEditStatus()).
     void signalMultiCheckBoxCloseEditStatus();
 
 private:

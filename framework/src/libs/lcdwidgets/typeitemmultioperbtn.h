@@ -21,15 +21,19 @@ public:
     explicit TypeItemMultiOperBtn(int count, QWidget* parent = nullptr);
     ~TypeItemMultiOperBtn() override;
 
+    // Text and value of the buttons, one pair each (extra pairs ignored).
     void setBtnText(QVector<QPair<QString, int>>& data);
+    // Sets the dynamic property `name` on every button and repolishes it.
     void setBtnDefaultStyle(QString name);
     void setContentFontSize(int size) override;
     void setContentDisabled(bool disabled) const override;
     void editValue() override;
 
+    // The button pad (owned by the row).
     MultiBtnWidget* btnWidget() const;
 
 signals:
+    // A button was pressed: its value, QVariant(int).
     void signalMultiOperBtnValueChanged(QVariant value);
 
 private:

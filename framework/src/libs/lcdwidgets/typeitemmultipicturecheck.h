@@ -29,21 +29,32 @@ class LCDWIDGETS_EXPORT TypeItemMultiPictureCheck : public CommonItemType
 {
     Q_OBJECT
 public:
+    // An empty grid (see PictureCheckWidget's defaults), no right icon.
     explicit TypeItemMultiPictureCheck(QWidget* parent = nullptr);
     ~TypeItemMultiPictureCheck() override;
 
+    // PictureCheckWidget::addPicture(): an unchecked picture; values must be unique.
     void addPicture(QIcon const& picture, QString const& caption, int value);
+    // The same from an image file.
     void addPicture(QString const& file, QString const& caption, int value);
+    // Removes the picture with that value (unknown values are logged).
     void removePicture(int value);
+    // Removes every picture.
     void clear();
+    // Number of pictures.
     int count() const;
+    // Pictures a row (at least 1, default 4).
     void setColumns(int columns);
+    // Size of each picture in px (default 64 × 40).
     void setPictureSize(QSize size);
 
     // Silent setters.
     void setChecked(int value, bool checked);
+    // Exactly the listed values checked; unknown values are logged and skipped.
     void setCurrentValue(QVector<int> const& values);
+    // Whether the picture with that value is checked.
     bool isChecked(int value) const;
+    // The checked values in display order.
     QVector<int> getCurrentValue() const;
 
     // --- Row operations ---
@@ -54,9 +65,11 @@ public:
     // Rows of pictures the grid shows (at least 1).
     int getWidgetRow() override;
 
+    // The grid (owned by the row).
     PictureCheckWidget* pictureCheckWidget() const;
 
 signals:
+    // The user flipped a picture (before signalValueChanged()).
     void signalPictureCheckChanged(int value, bool checked);
 
 private:

@@ -38,6 +38,7 @@ class LCDWIDGETS_EXPORT TypeItemSliderList : public StringComboxBaseType
 {
     Q_OBJECT
 public:
+    // No entries, no right icon; the slider's range follows the entries.
     explicit TypeItemSliderList(QWidget* parent = nullptr);
     ~TypeItemSliderList() override;
 
@@ -65,6 +66,7 @@ public:
     // false: the knob's press no longer starts an edit.
     void setEditable(bool editable) override;
 
+    // Number of entries that are not hidden.
     int visableCount() const;
 
     // --- Row operations ---
@@ -73,9 +75,12 @@ public:
     void setContentFontSize(int size) override;
     void setContentDisabled(bool disabled) const override;
 
+    // The slider (owned by the row).
     QSlider* slider() const;
+    // The label showing the current entry's text.
     QLabel* textLabel() const;
 
+    // The slider's keys during an edit, as described above; releases of those keys are swallowed.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:

@@ -19,12 +19,16 @@ class SwitchControl;
 class LCDWIDGETS_EXPORT TypeItemSwitch : public CommonItemType
 {
     Q_OBJECT
+    // On (true) or off.
     Q_PROPERTY(bool toggle READ getToggle WRITE setToggle)
 public:
+    // An off switch of 56×28 px, no text, no right icon.
     explicit TypeItemSwitch(QWidget* parent = nullptr);
     ~TypeItemSwitch() override;
 
+    // Sets the switch; it reports as every toggle does (see above), even when unchanged.
     void setToggle(bool checked);
+    // Whether the switch is on.
     bool getToggle();
     // Shows the text before the switch.
     void setLabelText(QString const& text);
@@ -36,9 +40,11 @@ public:
     // The switch gets 2 x height by height.
     void setRightIconSize(QSize size) override;
 
+    // The switch (owned by the row).
     SwitchControl* switchControl() const;
 
 signals:
+    // The switch was toggled (first of the three signals).
     void signalSwitchControlStatusChanged(bool checked);
 
 private:
@@ -53,13 +59,21 @@ class LCDWIDGETS_EXPORT TypeItemMultiSwitch : public CommonItemType
 {
     Q_OBJECT
 public:
+    // No switches, no title, no right icon; switches of 56×28 px.
     explicit TypeItemMultiSwitch(QWidget* parent = nullptr);
     ~TypeItemMultiSwitch() override;
 
+    // Sets the switch whose value is `index` on (value != 0) or off; it reports the toggle.
+    // An unknown value changes nothing.
     void setCurrentValue(int index, int value);
+    // 1 when the switch whose value is `index` is on, else 0 (also for an unknown value).
     int getCurrentValue(int index);
+    // Shows or hides the switch whose value is `index`.
     void setItemVisible(int index, bool visible);
+    // A named colour for every track when on; an invalid name is refused
+    // ("MultiSwitchWidget::setSwitchColor: invalid colour").
     void setSwitchColor(QString const& color);
+    // Appends one switch per (label, value) pair.
     void setTextData(QVector<QPair<QString, int>>& data);
 
     void editValue() override;
@@ -68,9 +82,11 @@ public:
     void setRightIconSize(QSize size) override;
     void setContentFontSize(int size) override;
 
+    // The switches (owned by the row).
     MultiSwitchWidget* multiSwitchWidget() const;
 
 signals:
+    // A switch was toggled: its value and 1 (on) or 0.
     void signalMultiSwitchValueChanged(int index, int value);
 
 private:

@@ -27,6 +27,7 @@ class LCDWIDGETS_EXPORT TypeItemTBarCalibration : public CommonItemType
 {
     Q_OBJECT
 public:
+    // Idle, the six steps shown; the keyboard proxy is looked up once, here.
     explicit TypeItemTBarCalibration(QWidget* parent = nullptr);
     ~TypeItemTBarCalibration() override;
 
@@ -40,24 +41,32 @@ public:
     // ("[TypeItemTBarCalibration] setContentFontSize: size N refused").
     static constexpr int kMaxFontSize = 1024;
     void setContentFontSize(int size) override;
+    // Sets the header, the steps and the button again in the current language.
     void retranslateUi();
 
     // The T-bar's position now (-1 without a proxy).
     int getTBarValue();
+    // The readings of the last run (up to six; empty before the first).
     std::vector<int> getCalibrationValue();
     // 0 idle, 1..6 the step whose reading comes next.
     int currentStep() const;
+    // The action button (start, next, done).
     QPushButton* actionButton() const;
     QLabel* stepLabel(int step) const; // 1..6, null otherwise
 
+    // Enter/Return click the action button (when enabled); Escape abandons a run.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 signals:
+    // A run started (the first press).
     void signalTBarCalibrationBegin();
+    // The sixth reading ended the run.
     void signalTBarCalibrationEnd();
+    // Escape abandoned the run (signalCloseEditStatus() follows).
     void signalTBarCalibrationBack();
 
 public slots:
+    // The action button's press: starts a run, or records the next reading.
     void slotBtnClicked();
 
 protected:

@@ -14,9 +14,11 @@ class LCDWIDGETS_EXPORT TypeItemTick : public CommonItemType
 {
     Q_OBJECT
 public:
+    // A row without a tick shown.
     explicit TypeItemTick(QWidget* parent = nullptr);
     ~TypeItemTick() override;
 
+    // Hides or shows the tick (theme property "isIconListTick" = !hidden); no signal.
     void setTickLabelHidden(bool hidden);
     // Chooses the row.
     void editValue() override;
@@ -26,6 +28,7 @@ public:
     void setRightIconSize(QSize size) override;
     void setContentDisabled(bool disabled) const override;
 
+    // The tick (owned by the row).
     QPushButton* tickLabel() const;
 
 private:

@@ -22,6 +22,8 @@ class LCDWIDGETS_EXPORT TypeItemValue : public CommonItemType
 {
     Q_OBJECT
 public:
+    // valueWidth: px at which values are cut (0 or negative: two thirds of the item width).
+    // No pictures, no icon, no right icon.
     explicit TypeItemValue(QWidget* parent = nullptr, int valueWidth = 0);
     ~TypeItemValue() override;
 
@@ -35,17 +37,27 @@ public:
     // The press: reports the user data.
     void editValue() override;
 
+    // Shows `text` as the value: scrolling when roll is true and it does not fit, else cut.
     void setRollLabelText(QString text, bool roll);
     // Picture files left and right of the value; an empty name keeps the current picture.
     void setLeftImageHidden(QString image, bool hidden);
+    // A file that does not load is logged ("TypeItemValue: cannot load image" and the file)
+    // and the picture hidden; pictures are scaled to the content font's height.
     void setRightImageHidden(QString image, bool hidden);
+    // The icon in front of the value (an image file); see setIconVisible().
     void setLabelIcon(QString const& image);
+    // Shows or hides the icon in front of the value (hidden by default).
     void setIconVisible(bool visible);
+    // The row's user data, reported by the press through signalValueChanged().
     void setItemData(QVariant data);
+    // The row's user data (invalid by default).
     QVariant getUserData() const;
+    // Sets a theme property on the value label and repolishes it.
     void setItemValueProperty(std::string const& name, QVariant value);
+    // Hides the value label.
     void setValueLabelHidden();
 
+    // The value label (owned by the row).
     RollLabel* valueLabel() const;
     // Width at which values are cut (the constructor's, or two thirds of the item width).
     int valueWidth() const;
@@ -62,6 +74,7 @@ class LCDWIDGETS_EXPORT TypeItemValueBorder : public CommonItemType
 {
     Q_OBJECT
 public:
+    // An empty value, no right icon, a half-transparent white line along the top edge.
     explicit TypeItemValueBorder(QWidget* parent = nullptr);
     ~TypeItemValueBorder() override;
 
@@ -71,9 +84,11 @@ public:
     void setContentFontSize(int size) override;
     void editValue() override;
 
+    // The value label (owned by the row).
     RollLabel* valueLabel() const;
 
 signals:
+    // The knob's press (editValue()) or a click released on the row.
     void signalClicked();
 
 protected:

@@ -18,6 +18,7 @@ class LCDWIDGETS_EXPORT TypeMainButton : public CommonItemType
 {
     Q_OBJECT
 public:
+    // A menu entry with its left and right icon buttons shown.
     explicit TypeMainButton(QWidget* parent = nullptr);
     ~TypeMainButton() override;
 
@@ -38,11 +39,14 @@ class LCDWIDGETS_EXPORT TypeItemNull : public CommonItemType
 {
     Q_OBJECT
 public:
+    // A title only.
     explicit TypeItemNull(QWidget* parent = nullptr);
     ~TypeItemNull() override;
 
     void setContentDisabled(bool disabled) const override;
+    // The row's user data, kept for the page.
     void setItemData(QVariant data);
+    // The row's user data (invalid by default).
     QVariant getUserData() const;
 
 private:

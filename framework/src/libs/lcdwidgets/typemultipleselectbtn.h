@@ -23,15 +23,19 @@ public:
                           QWidget* parent = nullptr);
     ~TypeMultipleSelectBtn() override;
 
+    // The text of one button; a bad index is logged
+    // ("MultipleSelectBtn::setBtnText: invalid index <index>").
     void setBtnText(int index, QString text);
     // The buttons are sized for the font size (see MultipleSelectBtn::setBtnSize).
     void setContentFontSize(int size) override;
     void setContentDisabled(bool disabled) const override;
     void editValue() override;
 
+    // The row of buttons (owned by the row).
     MultipleSelectBtn* selectBtn() const;
 
 signals:
+    // A button was chosen: its value.
     void signalBtnClicked(QVariant value);
 
 private:

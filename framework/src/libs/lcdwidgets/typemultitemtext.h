@@ -23,13 +23,20 @@ class LCDWIDGETS_EXPORT TypeMultItemText : public CommonItemType
 {
     Q_OBJECT
 public:
+    // Number of values (0 left, 1 centre, 2 right).
     static constexpr int kLabelCount = 3;
 
+    // Three empty values, no right icon.
     explicit TypeMultItemText(QWidget* parent = nullptr);
     ~TypeMultItemText() override;
 
+    // A value's text (0..2); a bad index is logged ("TypeMultItemText::setLabelText
+    // invalid label index <i>").
     void setLabelText(int index, QVariant value);
+    // A value's full text (not the cut one); empty (and logged) for a bad index.
     QString getLabelText(int index) const;
+    // Sets a theme property on a value's label and repolishes it (bad index logged; null
+    // name ignored).
     void setLabelProperty(int index, char const* name, QVariant const& value);
     // Label 0.
     void setLabelValue(QVariant value, int mode) override;
@@ -45,6 +52,7 @@ public:
     // Sizes below 1 are refused with a warning.
     void setContentFontSize(int size) override;
 
+    // A value's label; null (and logged) for a bad index.
     RollLabel* label(int index) const;
 
 private:
@@ -60,12 +68,17 @@ class LCDWIDGETS_EXPORT TypeKeyCheck : public CommonItemType
 {
     Q_OBJECT
 public:
+    // Number of labels (0 the measured value, 1 the result).
     static constexpr int kLabelCount = 2;
 
+    // Two empty labels ("isSelfCheckValueText" and "isValueText" = true), no right icon.
     explicit TypeKeyCheck(QWidget* parent = nullptr);
     ~TypeKeyCheck() override;
 
+    // A label's text (0 value, 1 result); a bad index is logged ("TypeKeyCheck::setLabelText
+    // invalid label index <i>").
     void setLabelText(int index, QVariant value) const;
+    // Sets the label's own style property to `value` (true, "pass" or "fail"); bad index logged.
     void setLabelProperty(int index, QVariant const& value);
     // The result (label 1).
     void setLabelValue(QVariant value, int mode) override;
@@ -74,6 +87,7 @@ public:
     void setContentDisabled(bool disabled) const override;
     void setContentFontSize(int size) override;
 
+    // A label; null (and logged) for a bad index.
     QLabel* label(int index) const;
 
 private:

@@ -27,9 +27,11 @@ class LCDWIDGETS_EXPORT TypePreviewWidget : public CommonItemType
 {
     Q_OBJECT
 public:
+    // An empty preview, no title, no icons.
     explicit TypePreviewWidget(QWidget* parent = nullptr);
     ~TypePreviewWidget() override;
 
+    // The preview (owned by the row), for the host to fill.
     PreviewWidget* preview() const;
     // The preview's height is h less the row's content font size (a margin above and
     // below), its width 16/9 of that.
@@ -44,9 +46,11 @@ public:
     void setCurrentItem(bool current) override;
     int getWidgetRow() override;
 
+    // The keys while choosing a layer, as described above.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 signals:
+    // The knob chose another layer (before signalValueChanged()).
     void signalCurrentLayerChanged(int index);
 
 private:

@@ -74,6 +74,7 @@ public:
     void setCurrentItem(bool current) override;
 
     // --- Entries with icons ---
+    // Appends an entry with an icon, a text and its user data.
     void addItem(QIcon const& icon, QString const& text, QVariant const& userData = QVariant());
     // An icon-only entry whose user data is `value`.
     void addItem(QIcon const& icon, int const& value);
@@ -82,12 +83,16 @@ public:
     int visableCount() const;
     // Opens the list; quiet: without signalValueChanged and signalShowPop.
     void showPopup(bool quiet);
+    // Closes the list without choosing (no signal).
     void hidePopup();
     // The row under the list's cursor (-1: none).
     int curSelectedRow() const;
     // Puts the list's cursor on `row` (the choice is unchanged).
     void setRowSelected(int row);
+    // Shows or hides the combo (the value) and lays the title out again.
     void setComboBoxVisible(bool visible);
+    // Size in px of the entries' icons. A negative side is refused ("[TypeStringCombox]
+    // setIconSize: negative size refused: " and the size); so is a side above QWIDGETSIZE_MAX.
     void setIconSize(QSize size);
     // Whether the combo's text may be typed (default: read-only).
     void setComboboxEditable(bool editable);
@@ -95,21 +100,35 @@ public:
     void updateComboboxEditable();
     // Fits the combo's width to its widest entry within the row's value area.
     void initComboBoxWidth();
+    // Whether opening the list first fits the combo's width to its entries (default true).
     void setIsNeedShowCombox(bool show);
+    // The combo that shows the value and opens the list (owned by the row).
     DropCombobox* comboBox() const;
 
     // --- Label before the value ---
+    // Shows or hides the label before the value (hidden by default); the title is laid out again.
     void setPreValueLabelHidden(bool hidden);
+    // The text of the label before the value (for instance "Input").
     void setPreValueLabelText(QString text);
+    // Sets a theme property on the label before the value and repolishes it; a null or empty
+    // name is refused ("[TypeStringCombox] setPreValueLabelProperty: no property name").
     void setPreValueLabelProperty(char const* name, QVariant const& value);
+    // Stores `data` as the label's "userdata" property (the theme may match on it).
     void setPreValueLabelUserdata(QVariant data);
+    // The label's "userdata" property; invalid when never set.
     QVariant getPreValueLabelUserdata() const;
+    // The object name of the label before the value (for the theme's object-name selectors).
     void setPreValueLabelObjectName(QString name);
+    // The object name of the label before the value.
     QString getPreValueLabelObjectName() const;
 
     // --- Label after the value ---
+    // The label after the value (a unit), owned by the row; hidden by default.
     QLabel* getLastLabel();
+    // Shows or hides the label after the value; the title is laid out again.
     void setLastValueLabelHidden(bool hidden);
+    // Sets a theme property on the label after the value and repolishes it; a null or empty
+    // name is refused ("[TypeStringCombox] setLastValueLabelProperty: no property name").
     void setLastValueLabelProperty(char const* name, QVariant const& value);
 
     // Escape closes the list and ends the edit; Enter ends it (Return is left to the
@@ -117,7 +136,10 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 public slots:
+    // The combo's activated(index): emits signalActivated and, during an edit, ends it.
     void slotComBoxActivated(int index);
+    // The combo's currentIndexChanged(index): emits signalCurrentIndexChanged,
+    // signalCurrentTextChanged and signalValueChanged (the entry's user data), in that order.
     void slotComBoxIndexChanged(int index);
 
 private:

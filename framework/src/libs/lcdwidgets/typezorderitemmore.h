@@ -29,16 +29,22 @@ namespace Widget {
 class LCDWIDGETS_EXPORT TypeZOrderItemMore : public CommonItemType
 {
     Q_OBJECT
+    // Number of layers, at least 1.
     Q_PROPERTY(int layerCount READ layerCount WRITE setLayerCount)
+    // The layer's position, 1..layerCount.
     Q_PROPERTY(int zOrder READ zOrder WRITE setZOrder)
 public:
+    // Position 1 of 1 ("1/1"), the "more" arrow on the right.
     explicit TypeZOrderItemMore(QWidget* parent = nullptr);
     ~TypeZOrderItemMore() override;
 
+    // Number of layers (the position is clamped into it); below 1 refused (see above). No signal.
     void setLayerCount(int count);
+    // Number of layers (default 1).
     int layerCount() const;
     // 1 (bottom) .. layerCount() (front).
     void setZOrder(int position);
+    // The layer's position (default 1).
     int zOrder() const;
     // setLabelValue(value, _) is setZOrder(value.toInt()); getLabelValue() the position.
     void setLabelValue(QVariant value, int mode) override;
@@ -50,11 +56,15 @@ public:
     void setContentFontSize(int size) override;
     void setCurrentItem(bool current) override;
 
+    // The position label (owned by the row).
     QLabel* zOrderLabel() const;
+    // The keys during a move, as described above.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 signals:
+    // The knob moved the layer (before signalValueChanged()).
     void signalZOrderChanged(int from, int to);
+    // The press during a move: open the layer's settings (the move then ends).
     void signalSettingsRequested();
 
 private:

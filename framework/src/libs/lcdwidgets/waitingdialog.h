@@ -46,30 +46,50 @@ public:
     // Hides the panel and emits hideDialog(); a hidden panel logs a warning.
     void hideWaitingDialog();
 
+    // The text under the image, in the colour of `level` (white, yellow, red); an unknown
+    // level is logged ("[WaitingDialog] setInformativeText: unknown text level") and taken
+    // as White.
     void setInformativeText(QString const& text, TooltipLevel level = White);
+    // The text under the image.
     QString informativeText() const;
     // The function button: shown with `text`, reporting `functionCode` when pressed.
     void setFunButtonStatus(bool visible, QString const& text, int functionCode);
+    // Shows the function button (enabled, focused; the panel grows to 11·W/16 × 3·H/5) or
+    // hides it (the panel shrinks back).
     void setFunButtonVisible(bool visible);
+    // Whether the function button is shown (hidden by default).
     bool isFunButtonVisible() const;
+    // The function button's text.
     void setButtonText(QString const& text);
+    // The code signalFunButtonClicked() reports (the button's "userData" property).
     void setButtonProperty(int functionCode);
+    // Enables the function button again (a press disables it until the host reacts).
     void setFunButtonEnable(bool enable);
 
     // Moves the panel onto another widget (null: a top-level window).
     void attachToWidget(QWidget* widget);
+    // Stored for the host; the panel does not read it.
     void setParentChanged(bool changed);
+    // Stored for the host (default Small); an unknown size is refused
+    // ("[WaitingDialog] setIndicatorSize: unknown size").
     void setIndicatorSize(IndicatorSize size);
+    // The size given to setIndicatorSize().
     IndicatorSize indicatorSize() const;
+    // The text size in px (the host rectangle's width / 37.5).
     int getFontSize() const;
+    // The rectangle the panel is sized from and centred on (the last one shown with).
     QRect hostRect() const;
     // Advances the indicator angle (modulo 360) and repaints.
     void step();
+    // The indicator angle in degrees, 0..330 in steps of 30.
     int angle() const;
+    // The loading image's size in px.
     QSize sizeHint() const override;
 
 signals:
+    // The function button was pressed: its code (the button is then disabled).
     void signalFunButtonClicked(int functionCode);
+    // hideWaitingDialog() hid the panel.
     void hideDialog();
 
 private slots:

@@ -13,8 +13,11 @@ namespace dov {
 class IHostApi
 {
 public:
+    // The host API's version.
     virtual int version() const = 0;
+    // Registers `object` under `name` for other plug-ins; false when refused by the host.
     virtual bool registerObject(char const* name, void* object) = 0;
+    // Removes the object registered under `name`.
     virtual void unregisterObject(char const* name) = 0;
     // Returns the host object registered under `name`, or nullptr.
     virtual void* findObject(char const* name) = 0;
@@ -27,7 +30,9 @@ protected:
 // until pluginit() runs.
 struct api
 {
+    // The host's API, null until pluginit() runs.
     IHostApi* host = nullptr;
+    // Reserved by the host; zero.
     void* reserved[2] = {nullptr, nullptr};
 
     // Thread-safe function-local static; get() before pluginit() yields a null host.

@@ -10,6 +10,7 @@ namespace MainWidgets {
 class IHomeFrame
 {
 public:
+    // The home frame's size in px.
     virtual QSize size() const = 0;
 
 protected:
