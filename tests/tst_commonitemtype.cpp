@@ -59,6 +59,7 @@ class TestCommonItemType : public LeakCheckedTest
 private slots:
     void skeleton();
     void titleWidth();
+    void sizeHintFollowsTitleWidth();
     void captionDropsTwoWords();
     void contentFontSize();
     void secondTitle();
@@ -157,6 +158,20 @@ void TestCommonItemType::titleWidth()
     row.setItemTitle(QStringLiteral("Another title far too long for this narrow row"));
     QVERIFY(!row.getLabelRoll());
     QVERIFY(!row.getTitleLabel()->isRolling());
+}
+
+void TestCommonItemType::sizeHintFollowsTitleWidth()
+{
+    // A host fits a row to its page from its size hint, right after giving it a width:
+    // the hint must already count the new title width, not a cached one.
+    Row row(100);
+    row.setItemTitle(QStringLiteral("Brightness"));
+    row.setItemTitleWidth(500);
+    row.setItemTitleText(row.itemTitle());
+    int const wide = row.sizeHint().width();
+    row.setItemTitleWidth(400);
+    row.setItemTitleText(row.itemTitle());
+    QCOMPARE(row.sizeHint().width(), wide - 100);
 }
 
 void TestCommonItemType::captionDropsTwoWords()
