@@ -14,6 +14,12 @@
 namespace LCD {
 namespace Widget {
 
+// Integer spin box worked with the knob: right-aligned, without buttons or keyboard
+// tracking. Up/Down move the value by getStep() at the key's level, saturating at the
+// bounds and snapping toward zero onto the single-step grid; Enter drops the focus;
+// with the digits of a negative value selected, the 0 key jumps to 0 (when in range).
+// Typed text is limited to 6 characters, 7 for a negative value (prefix and suffix
+// included).
 class LCDWIDGETS_EXPORT NQSpinBox : public QSpinBox
 {
     Q_OBJECT
@@ -32,23 +38,38 @@ public:
 
     // Selects the digits: without the minus sign for a negative value, all otherwise.
     void setSelection();
+    // Clears the text selection.
     void unSelection() const;
     // v truncated to a multiple of the single step; with round-off on, the last
     // decade is rounded up by 10 when it is half full or more.
     int calRoundOff(int value) const;
+    // Whether minimum() <= value <= maximum().
     bool isValid(int value) const;
     // Sets an in-range value without emitting; out-of-range values are ignored.
     void setValueByManual(int value);
+    // Stores the suffix type and shows its unit: "%", the translated "s" (it follows the
+    // interface language) or "°". SuffixNone stores the type but leaves the unit shown as
+    // it is.
     void setSuffixType(SuffixType type);
+    // Turns the round-off of calRoundOff() (also applied to typed text) on or off; off by
+    // default.
     void setRoundOff(bool on);
 
+    // The suffix type last set; SuffixNone by default.
     SuffixType suffixType() const { return m_suffixType; }
+    // The quit strategy given at construction; the box only keeps it.
     QuitStrategy quitStrategy() const { return m_quitStrategy; }
+    // The focus-frame mode given at construction (1 or 3: a frame while the box has the focus).
     int focusFrameMode() const { return m_focusFrameMode; }
+    // Whether round-off is on (setRoundOff()); off by default.
     bool roundOff() const { return m_roundOff; }
+    // The value last committed, by a knob step, setValueByManual(), the 0 key or the loss of
+    // the focus; 0 at first.
     int committedValue() const { return m_committed; }
 
 signals:
+    // The box lost the focus, which ends an edit; emitted after the value shown is
+    // committed, with the reason of the focus loss.
     void editFinished(Qt::FocusReason reason);
 
 protected:
@@ -72,29 +93,49 @@ private:
     QuitStrategy m_quitStrategy = QuitKeepValue;
 };
 
+// Floating-point spin box worked with the knob: right-aligned, without buttons or
+// keyboard tracking, framed (2 px, white) while it has the focus. Up/Down move the value
+// shown by getStep() at the key's level, saturating at the bounds (a text outside the
+// range is not stepped); Enter drops the focus; with the digits of a negative value
+// selected, the 0 key jumps to 0 (when in range). Typed text is limited to 5 characters.
 class LCDWIDGETS_EXPORT NQDoubleSpinBox : public QDoubleSpinBox
 {
     Q_OBJECT
 public:
+    // A box marked "isCompomentsSpinBoxInput" for the theme. SuffixPercent shows "%",
+    // SuffixSecond the translated "s" (it follows the interface language); SuffixDegree
+    // shows no unit on this box. `quit` is only kept (quitStrategy()).
     NQDoubleSpinBox(SuffixType suffix = SuffixNone, QuitStrategy quit = QuitKeepValue, QWidget* parent = nullptr);
+    // Without suffix, keeping QuitKeepValue (forms built by uic or Designer).
     explicit NQDoubleSpinBox(QWidget* parent);
     ~NQDoubleSpinBox() override;
 
+    // Step of one knob detent at `level`: stepFor() with the box's range and single step.
     double getStep(float level) const;
     // The same rule for any floating-point range (shared by the line edits).
     static double stepFor(float level, double minimum, double maximum, double singleStep);
+    // Selects the digits: without the minus sign while the committed value is negative,
+    // all otherwise.
     void setSelection();
+    // Clears the text selection.
     void unSelection() const;
+    // Whether minimum() <= value <= maximum() (false for NaN).
     bool isValid(double value) const;
     // Stores the value as committed and sets it (clamped) without emitting; NaN is
     // logged and ignored.
     void setValueByManual(double value);
 
+    // The suffix type given at construction.
     SuffixType suffixType() const { return m_suffixType; }
+    // The quit strategy given at construction; the box only keeps it.
     QuitStrategy quitStrategy() const { return m_quitStrategy; }
+    // The value last committed, by a knob step, setValueByManual() (as given, even outside
+    // the range), the 0 key or the loss of the focus; 0 at first.
     double committedValue() const { return m_committed; }
 
 signals:
+    // The box lost the focus, which ends an edit; emitted after the value shown is
+    // committed, with the reason of the focus loss.
     void editFinished(Qt::FocusReason reason);
 
 protected:

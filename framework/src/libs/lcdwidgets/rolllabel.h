@@ -13,6 +13,8 @@ class LCDWIDGETS_EXPORT RollLabel : public QLabel
 {
     Q_OBJECT
 public:
+    // An empty label without a fixed width (it shows texts as they are until setWidth()).
+    // The marquee's timer is made when the label first rolls.
     explicit RollLabel(QWidget* parent = nullptr);
     ~RollLabel() override;
 
@@ -28,17 +30,32 @@ public:
     void setCalTextLabel(QString const& text, int width, bool roll);
     // Pixels per tick and tick interval in ms; used from the next start of the marquee.
     void setspeed(int step, int interval);
+    // Shows `pixmap` instead of a text and stops the marquee.
     void setPixmapLabel(QPixmap const& pixmap);
+    // Whether rolling was asked for: the `roll` of the last setTextLabel() (or
+    // setCalTextLabel()) made with a width set; false at first.
     bool getLabelRoll() const;
+    // Measures the item name again and starts the marquee (from offset 0, at the current
+    // speed) when rolling was asked for, the text is plain and the item name is wider than
+    // the stored width; otherwise stops it.
     void upateLabelRollingState();
 
     // Introspection for pages and tests.
     bool isRolling() const;
+    // How far, in pixels, the marquee has scrolled the text to the left; back to 0 after
+    // a whole turn (text width plus the gap).
     int scrollOffset() const;
+    // The item name's width in pixels in the label's font, as last measured.
     int textWidth() const;
+    // The width in pixels of the gap (one space) between the item name and its repeat in
+    // the marquee; 0 until the label first rolls.
     int gapWidth() const;
+    // The width set with setWidth() or computed by setCalTextLabel(); 0 at first. Below 1
+    // the label takes its text as it is.
     int storedWidth() const;
+    // The full text the marquee scrolls (setItemName(), setCalTextLabel()).
     QString itemName() const;
+    // The marquee's timer (one updateText() a tick); made, stopped, on the first call.
     QTimer* rollTimer() const;
 
 public slots:

@@ -21,16 +21,27 @@ class NQSpinBox;
 class LCDWIDGETS_EXPORT TypeIntAdjust : public CommonItemType
 {
     Q_OBJECT
+    // The spin box's minimum, default 0 (minimum(), setMinimum()).
     Q_PROPERTY(int minimum READ minimum WRITE setMinimum)
+    // The spin box's maximum, default 99; setting it re-sizes the box (maximum(), setMaximum()).
     Q_PROPERTY(int maximum READ maximum WRITE setMaximum)
+    // The step of one slow knob detent, default 1 (singleStep(), setSingleStep(): ignored
+    // unless 0 < step <= maximum - minimum).
     Q_PROPERTY(int singleStep READ singleStep WRITE setSingleStep)
+    // The spin box's value, default 0 (value(); setValue() sets it without reporting it).
     Q_PROPERTY(int value READ value WRITE setValue)
 public:
+    // A row with an NQSpinBox in its value area (range 0..99, step 1, value 0), with the
+    // unit of `suffix`; `quit` is only kept by the box. `commonWidgetType` picks the variant
+    // (see above): 1 marks the right icon as the edit icon ("isIconListEdit"), 2 hides it.
     TypeIntAdjust(SuffixType suffix, QuitStrategy quit, QWidget* parent = nullptr, int commonWidgetType = 0);
     // A plain row without suffix, kept when left (forms built by uic or Designer).
     explicit TypeIntAdjust(QWidget* parent = nullptr);
     ~TypeIntAdjust() override;
 
+    // Keys on the spin box during an edit: Escape ends it keeping the value reached (the
+    // row's parent takes the focus back, so the row emits signalEditFinished() first), then
+    // the row emits signalCloseEditStatus(); key releases are swallowed. Other events pass.
     bool eventFilter(QObject* watched, QEvent* event) override;
     void setLabelValue(QVariant value, int mode = 0) override;
     QVariant getLabelValue() override;
@@ -44,14 +55,21 @@ public:
 
     // Minimum without re-sizing the box (the width follows the maximum).
     void setRangeMin(int minimum);
+    // The spin box's maximum, set without reporting a value it clamps, then the box is
+    // re-sized to its bounds' texts.
     void setRangeMax(int maximum);
     // Shows the spin box, or the value label in its place.
     void setSpinBoxShow(bool show);
+    // The text of the label that stands in for a hidden spin box (setSpinBoxShow(false)),
+    // kept until that label is built.
     void setLabelText(QString const& text);
+    // The spin box's unit (NQSpinBox::setSuffixType(): SuffixNone leaves the unit shown).
     void setSuffixType(SuffixType type);
+    // Turns the spin box's round-off on or off (NQSpinBox::setRoundOff()); off by default.
     void setRoundOff(bool on);
     // Fixed width from the longer of the bounds' texts and the content font size.
     void setSpinBoxWidth();
+    // The variant given at construction (0 for the plain row).
     int getCommonWidgetType() const;
 
     // The row's value as last reported (an int).
@@ -59,11 +77,15 @@ public:
 
     // The spin box's settings, as the property editor reads and writes them.
     int minimum() const;
+    // The spin box's maximum.
     int maximum() const;
     // setRangeMin and setRangeMax under the names a form sets.
     void setMinimum(int minimum);
+    // setRangeMax() under the name a form sets.
     void setMaximum(int maximum);
+    // The spin box's single step.
     int singleStep() const;
+    // The value the spin box holds (currentValue() is the value last reported or set).
     int value() const;
     // Sets the value without reporting it (as setLabelValue).
     void setValue(int value);

@@ -15,6 +15,8 @@ class LCDWIDGETS_EXPORT TypeItemTip : public CommonItemType
 {
     Q_OBJECT
 public:
+    // A row without title or right icon: the tip icon ("isTipItemIcon", 24 x 24) and the
+    // tip text ("isTipText"), which take the whole row.
     explicit TypeItemTip(QWidget* parent = nullptr);
     ~TypeItemTip() override;
 
@@ -27,11 +29,15 @@ public:
     // Sizes the tip icon.
     void setLeftIconSize(QSize size) override;
 
+    // Hides (true) or shows (false) the tip icon; a hidden icon leaves its room to the text
+    // at the next getWidgetRow() (unless setTextLabelWidth() fixed the text's width).
     void setIconHidden(bool hidden);
     // A fixed width for the tip text (0: what the row leaves beside the icon).
     void setTextLabelWidth(int width);
 
+    // The tip text's label.
     QLabel* tipLabel() const;
+    // The tip icon.
     QPushButton* tipIcon() const;
 
 private:
