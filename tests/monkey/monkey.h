@@ -61,10 +61,10 @@ struct ClassEntry
     // layout) for rows and controls; top-levels (dialogs, panels) ignore `page` as a
     // parent and are shown by the factory. Returns the widget the monkey works.
     std::function<QWidget*(QWidget* page)> create;
-    std::vector<Action> actions;                    // the class's public setters, hostile values
+    std::vector<Action> actions{};                  // the class's public setters, hostile values
     // Regular expressions of the warnings the class documents for bad input; any
     // other message (and any message from Qt itself) is a failure.
-    QStringList allowedWarnings;
+    QStringList allowedWarnings{};
 };
 
 // Casts for the factories: Monkey::act<TypeIntAdjust>("setRange", [](TypeIntAdjust* w, Rng& r) {...}).
