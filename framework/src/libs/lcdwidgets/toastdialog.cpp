@@ -111,16 +111,10 @@ void ToastDialog::showEvent(QShowEvent* event)
         move(parent->mapToGlobal(centre));
     }
     QDialog::showEvent(event);
-    // The time counts from showing (again from each showing).
+    // The time counts from showing (again from each showing). A toast hidden by someone
+    // else before its time still closes then: one of createToastDialog() goes away.
     if (!d->permanent && !event->spontaneous())
         d->timer->start();
-}
-
-void ToastDialog::hideEvent(QHideEvent* event)
-{
-    if (!event->spontaneous())
-        d->timer->stop();
-    QDialog::hideEvent(event);
 }
 
 void ToastDialog::keyPressEvent(QKeyEvent* event)
