@@ -244,8 +244,8 @@ private slots:
         for (QPushButton* button : {bar.getResetButton(), bar.getApplyButton()}) {
             button->setFocus(Qt::OtherFocusReason);
             // Space would click an ordinary push button; Left/Right would move its focus.
-            for (int key : {int(Qt::Key_Space), int(Qt::Key_Return), int(Qt::Key_Enter), int(Qt::Key_Escape),
-                            int(Qt::Key_Left), int(Qt::Key_Right), int(Qt::Key_Tab), int(Qt::Key_A)})
+            for (int key : {int(Qt::Key_Space), int(Qt::Key_Escape), int(Qt::Key_Left), int(Qt::Key_Right),
+                            int(Qt::Key_Tab), int(Qt::Key_A)})
                 Knob::key(&bar, key);
             QCOMPARE(QApplication::focusWidget(), button);
         }
@@ -253,6 +253,41 @@ private slots:
         QCOMPARE(applySpy.count(), 0);
         QCOMPARE(backSpy.count(), 0);
         QVERIFY(page.calls.isEmpty());
+    }
+
+    void resetApplyPressClicksAndBackGoesBack()
+    {
+        Recorder page;
+        ResetApplyWidget bar(Enum::ResetAndApplyButton, &page);
+        showAndLayout(&bar);
+        bar.activateWindow();
+        QSignalSpy resetSpy(&bar, &ResetApplyWidget::signalResetBtnClicked);
+        QSignalSpy applySpy(&bar, &ResetApplyWidget::signalApplyBtnClicked);
+        QSignalSpy backSpy(&bar, &ResetApplyWidget::signalBackBtnClicked);
+
+        bar.getResetButton()->setFocus(Qt::OtherFocusReason);
+        QVERIFY(Knob::press(&bar));
+        QCOMPARE(resetSpy.count(), 1);
+        QCOMPARE(applySpy.count(), 0);
+        bar.getApplyButton()->setFocus(Qt::OtherFocusReason);
+        QVERIFY(Knob::press(&bar, true)); // the keypad's Enter
+        QVERIFY(Knob::press(&bar));
+        QCOMPARE(resetSpy.count(), 1);
+        QCOMPARE(applySpy.count(), 2);
+        QCOMPARE(QApplication::focusWidget(), bar.getApplyButton());
+
+        QVERIFY(Knob::key(&bar, Qt::Key_Back));
+        bar.getResetButton()->setFocus(Qt::OtherFocusReason);
+        QVERIFY(Knob::key(&bar, Qt::Key_Back));
+        QCOMPARE(backSpy.count(), 2);
+        QCOMPARE(resetSpy.count(), 1);
+        QCOMPARE(applySpy.count(), 2);
+        QVERIFY(page.calls.isEmpty());
+
+        // A disabled bar clicks nothing.
+        bar.setEnable(false);
+        Knob::press(&bar);
+        QCOMPARE(resetSpy.count(), 1);
     }
 
     void resetApplySingleButtonHandsUpToThePage_data()

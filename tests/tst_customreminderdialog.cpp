@@ -112,6 +112,8 @@ void TestCustomReminderDialog::pressReturnsTheId()
     dialog.setBtnFocus(2);
     Modal::Guard guard;
     Modal::keysWhenModal({Qt::Key_Down, Qt::Key_Return});
+    QLoggingCategory::setFilterRules(QString());
+    QTest::ignoreMessage(QtDebugMsg, "[dialog] exec finish with 3");
     QCOMPARE(dialog.exec(), 3);
     QVERIFY(!guard.fired());
     QCOMPARE(caption(dialog, 1)->styleSheet(), QStringLiteral("QLabel{font-size: 16px; }")); // int(21 · 0.8)
@@ -129,6 +131,8 @@ void TestCustomReminderDialog::escapeReturnsMinusOneAndSignals()
         dialog.setBtnFocus(1);
         Modal::key(&dialog, Qt::Key_Escape);
     });
+    QLoggingCategory::setFilterRules(QString());
+    QTest::ignoreMessage(QtDebugMsg, "[dialog] exec finish with -1");
     QCOMPARE(dialog.exec(), -1);
     QVERIFY(!guard.fired());
     QCOMPARE(back.count(), 1);

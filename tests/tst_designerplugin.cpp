@@ -249,6 +249,17 @@ void TestDesignerPlugin::widgetDescribesItself()
     for (QString const& property : properties)
         QVERIFY2(created->metaObject()->indexOfProperty(property.toLatin1().constData()) >= 0,
                  qPrintable(property));
+    // Each class declares a property once (Designer would list a second one twice).
+    for (QMetaObject const* m = created->metaObject(); m && !isQtClass(m); m = m->superClass()) {
+        QSet<QByteArray> declared;
+        for (int i = m->propertyOffset(); i < m->propertyCount(); ++i) {
+            QByteArray const property = m->property(i).name();
+            QVERIFY2(!declared.contains(property), qPrintable(QStringLiteral("%1.%2 declared twice")
+                                                                  .arg(QLatin1String(m->className()),
+                                                                       QLatin1String(property))));
+            declared.insert(property);
+        }
+    }
 }
 
 void TestDesignerPlugin::widgetKeepsItsProperties_data() { addWidgetRows(); }

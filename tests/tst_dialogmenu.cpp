@@ -307,9 +307,21 @@ void TestDialogMenu::refusals()
     QTest::ignoreMessage(QtDebugMsg, "the index is bigger than _itemNameList!");
     menu.updateCurrentIndex(9, false);
     QCOMPARE(menu.getCurrentIndex(), 2);
-    // A negative index is not a choice.
+    // A negative index is not a choice: refused, the cursor stays.
+    QTest::ignoreMessage(QtDebugMsg, "the index is bigger than _itemNameList!");
     QVERIFY(!menu.setCurrentIndex(-1));
+    QCOMPARE(menu.getCurrentIndex(), 2);
+    QCOMPARE(menu.selectedIndex(), 2);
+    QCOMPARE(menu.listWidget()->currentRow(), 2);
     QVERIFY(current.isEmpty());
+    // New data for an entry (the current one included) is no new choice.
+    QSignalSpy currentText(&menu, &DialogMenuWidget::signalCurrentChanged);
+    menu.setItemData(2, 42);
+    menu.setItemData(0, QStringLiteral("x"), Qt::UserRole + 1);
+    QCOMPARE(menu.getItemData(2), QVariant(42));
+    QCOMPARE(menu.getItemData(0, Qt::UserRole + 1), QVariant(QStringLiteral("x")));
+    QVERIFY(current.isEmpty());
+    QVERIFY(currentText.isEmpty());
     // A hidden row can't be chosen.
     menu.setRowHidden(3, true);
     QTest::ignoreMessage(QtDebugMsg, "[DialogMenuWidget] setCurrentIndex: row 3 is hidden");

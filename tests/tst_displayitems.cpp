@@ -190,7 +190,7 @@ void TestDisplayItems::moreLoadingState()
     QVERIFY(row->loadingLabel()->isHidden());
     QCOMPARE(row->loadingLabel()->property("isPicLoading").toBool(), true);
     QCOMPARE(row->loadingLabel()->property("loadingstate").toString(), QStringLiteral("none"));
-    QCOMPARE(TypeItemMore::loadingImage(), QStringLiteral("../share/themes/default/images/icon_picture_loading.gif"));
+    QCOMPARE(TypeItemMore::loadingImage(), QStringLiteral("./../share/themes/default/images/icon_picture_loading.gif"));
     page.show();
 
     row->setLoadingState(TypeItemMore::Loading);

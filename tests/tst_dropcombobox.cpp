@@ -413,6 +413,8 @@ void TestDropCombobox::fontSizeSheet()
     QCOMPARE(combo.fontSize(), 22);
     QTest::ignoreMessage(QtDebugMsg, "[DropCombobox] setHeight: negative height refused: -4");
     combo.setHeight(-4);
+    QTest::ignoreMessage(QtDebugMsg, "[DropCombobox] setHeight: height above 16777215 refused: 16777216");
+    combo.setHeight(QWIDGETSIZE_MAX + 1);
     combo.setHeight(36);
     QCOMPARE(combo.height(), 36);
     QCOMPARE(combo.lineEdit()->height(), 36);

@@ -74,6 +74,7 @@ private slots:
     void tbarTestReadsProxy();
     void tbarTestWithoutProxy();
     void summaryAndBadInput();
+    void droppedTestEndsNotTested();
 };
 
 void TestFactoryTest::listWalksAndEscapeGoesToHost()
@@ -312,6 +313,34 @@ void TestFactoryTest::summaryAndBadInput()
         running->startTest(int(FactoryTestItem::TBar));
         delete running;
     }
+}
+
+void TestFactoryTest::droppedTestEndsNotTested()
+{
+    // Starting a test while another runs ends the other without a verdict, before the
+    // new one starts; the mark it earned earlier stays.
+    Page p;
+    QVERIFY(p.start());
+    p.left()->setResult(int(FactoryTestItem::Knob), FactoryTestResult::Passed);
+    p.frame->startTest(int(FactoryTestItem::Knob));
+    Knob::turn(&p.window, 2);
+    QCOMPARE(p.right()->knobUpCount(), 2);
+    p.frame->startTest(int(FactoryTestItem::Keys));
+    QString const notTested = QString::number(R(FactoryTestResult::NotTested));
+    QCOMPARE(p.log, (QStringList{"start 1", "end 1 " + notTested, "start 0"}));
+    QCOMPARE(p.right()->runningTest(), int(FactoryTestItem::Keys));
+    QCOMPARE(p.frame->result(int(FactoryTestItem::Knob)), FactoryTestResult::Passed);
+    QVERIFY(p.right()->hasFocus());
+
+    // The same test again starts afresh; a bad index leaves the running one alone.
+    QSignalSpy finished(p.right(), &FactoryTestRightFrame::signalTestFinished);
+    p.right()->startTest(int(FactoryTestItem::Keys));
+    QCOMPARE(finished.count(), 1);
+    QCOMPARE(finished.at(0), (QVariantList{int(FactoryTestItem::Keys), R(FactoryTestResult::NotTested)}));
+    QTest::ignoreMessage(QtWarningMsg, "[FactoryTestRightFrame] test index out of range: 7");
+    p.right()->startTest(7);
+    QCOMPARE(finished.count(), 1);
+    QCOMPARE(p.right()->runningTest(), int(FactoryTestItem::Keys));
 }
 
 QTEST_MAIN(TestFactoryTest)

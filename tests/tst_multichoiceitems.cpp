@@ -159,6 +159,7 @@ private slots:
         Knob::key(row, Qt::Key_Enter);
         QCOMPARE(value.size(), 1);
         QCOMPARE(value.at(0), QVariantList({1, true}));
+        QCOMPARE(row->getCurrentValue(), QVector<int>({1, 2}));
         Knob::back(row);
         QVERIFY(!row->isEditing());
         QCOMPARE(order, QStringList({"checkbox close", "close"}));

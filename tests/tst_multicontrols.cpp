@@ -321,6 +321,12 @@ private slots:
         Knob::key(c, Qt::Key_Enter);
         QCOMPARE(value.size(), 1);
         QCOMPARE(value.at(0), QVariantList({2, true}));
+        // What the user flipped is what the control reports.
+        QCOMPARE(c->getCurrentData(), QVector<int>({2}));
+        Knob::key(c, Qt::Key_Enter);
+        QCOMPARE(c->getCurrentData(), QVector<int>());
+        Knob::key(c, Qt::Key_Enter);
+        QCOMPARE(value.size(), 3);
         Knob::turn(c, -3);
         QCOMPARE(QApplication::focusWidget(), b.at(2));
         Knob::back(c);
@@ -339,7 +345,12 @@ private slots:
         QCOMPARE(c.getCheckStatus(1), int(Qt::Unchecked));
         QCOMPARE(c.getCheckStatus(9), -1);
         c.setCurrentData({2, 7});
-        QCOMPARE(c.getCurrentData(), QVector<int>({2, 7}));
+        QCOMPARE(c.getCurrentData(), QVector<int>({2})); // 7 has no box
+        c.setCheckStatus(1, true, true);
+        QCOMPARE(c.getCurrentData(), QVector<int>({2})); // partially checked is not checked
+        c.setCheckStatus(1, true, false);
+        QCOMPARE(c.getCurrentData(), QVector<int>({1, 2}));
+        c.setCheckStatus(1, false, false);
         QCOMPARE(c.getCheckStatus(2), int(Qt::Checked));
         QCOMPARE(c.getCheckStatus(1), int(Qt::Unchecked));
         QCOMPARE(value.size(), 0);

@@ -456,6 +456,18 @@ void TestNumericItems::sliderRow()
     row->setContentDisabled(true);
     QVERIFY(!spin->isEnabled());
     QVERIFY(!slider->isEnabled());
+
+    // Either bound alone refits the spin box to the longest value of the range.
+    int const narrow = spin->width();
+    row->setRangeMin(-100000);
+    int const wide = spin->width();
+    QVERIFY(wide > narrow);
+    row->setRangeMin(0);
+    QCOMPARE(spin->width(), narrow);
+    row->setRangeMax(1000000);
+    QVERIFY(spin->width() > narrow);
+    row->setRangeMax(100);
+    QCOMPARE(spin->width(), narrow);
 }
 
 void TestNumericItems::dualRow()

@@ -39,6 +39,7 @@ private slots:
     void toastFlagsTypesAndTimer();
     void permanentToastStaysAndEscapeDoesNotClose();
     void toastWhoseParentGoesFirst();
+    void stackToastCountsFromShowingAndStaysAlive();
     void tipReturnsTheChoice();
     void tipEscapeAndHiddenButtons();
     void tipBadInputAndAutoDelete();
@@ -204,6 +205,35 @@ void TestToasts::toastWhoseParentGoesFirst()
     delete owner;
     QVERIFY(reminder.isNull());
     QTest::qWait(60);
+}
+
+void TestToasts::stackToastCountsFromShowingAndStaysAlive()
+{
+    // A toast of the caller's own: closing it must not delete it (it is deleted once,
+    // by its scope), and its time starts when it is shown, not when it is made.
+    ToastDialog toast(QStringLiteral("On the stack"), 80, 2, false);
+    QVERIFY(!toast.testAttribute(Qt::WA_DeleteOnClose));
+    QTest::qWait(150);
+    toast.show();
+    QVERIFY(toast.isVisible());
+    QTest::qWait(20);
+    QVERIFY(toast.isVisible());
+    QTRY_VERIFY_WITH_TIMEOUT(!toast.isVisible(), 2000);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    // Shown again, it counts again; closed by hand it stays alive too.
+    toast.show();
+    QTRY_VERIFY_WITH_TIMEOUT(!toast.isVisible(), 2000);
+    toast.show();
+    toast.close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(!toast.isVisible());
+
+    // Made permanent while shown, it stops counting.
+    toast.show();
+    toast.setPermanent(true);
+    QTest::qWait(150);
+    QVERIFY(toast.isVisible());
+    toast.close();
 }
 
 void TestToasts::tipReturnsTheChoice()

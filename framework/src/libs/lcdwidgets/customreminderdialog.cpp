@@ -243,6 +243,7 @@ int CustomReminderDialog::exec()
     int const result = QDialog::exec();
     if (self && previous && previous != this && previous->isVisible())
         previous->activateWindow();
+    qDebug().nospace() << "[dialog] exec finish with " << result;
     return result;
 }
 

@@ -53,7 +53,8 @@ public:
     QList<int> buttonIds() const;
 
     // Runs the dialog modally, centred on the host rectangle: the pressed tile's id, or -1
-    // after Escape. A second run while one is under way is refused
+    // after Escape; the result is logged ("[dialog] exec finish with <result>", debug).
+    // A second run while one is under way is refused
     // ("[CustomReminderDialog] exec: already running, refused") and answers Rejected (0).
     int exec() override;
     // The dialog's width in px (11/16 of the host's width).

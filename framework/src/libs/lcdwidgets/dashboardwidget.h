@@ -81,8 +81,6 @@ class LCDWIDGETS_EXPORT DashBoardWidget : public QWidget
     Q_PROPERTY(QColor backgroundColor READ backgroundColor WRITE setBackgroundColor)
     // Whether the dial is selected (white arc).
     Q_PROPERTY(bool selected READ isSelected WRITE setSelected)
-    // The value the pointer shows (declared a second time).
-    Q_PROPERTY(double value READ value WRITE setValue)
 public:
     // Arc of a selected dial: white.
     static const QColor SELECTED_COLOR;

@@ -296,18 +296,16 @@ void DialogMenuWidget::curRowItemUp()
 
 bool DialogMenuWidget::setCurrentIndex(int i)
 {
-    if (i >= d->itemNameList.size()) {
+    if (i < 0 || i >= d->itemNameList.size()) {
         qDebug(kBadIndex);
         return false;
     }
-    if (i >= 0 && isRowHidden(i)) {
+    if (isRowHidden(i)) {
         qDebug() << "[DialogMenuWidget] setCurrentIndex: row" << i << "is hidden";
         return false;
     }
     d->currentIndex = d->selectedIndex = i;
     updateCurrentShowItem(false);
-    if (i < 0)
-        return false;
     emit signalCurrentChanged(d->itemNameList.at(i));
     emit signalCurrentIndexChanged(i);
     return true;
@@ -358,6 +356,8 @@ void DialogMenuWidget::setItemData(int index, QVariant value, int role) const
             break;
         }
     }
+    // The entry's data is not a choice: no current-signals (as for a new text).
+    QSignalBlocker block(d->list);
     item->setData(role, value);
 }
 

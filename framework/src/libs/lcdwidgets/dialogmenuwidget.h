@@ -84,7 +84,9 @@ public:
     void setListItems(QVector<Entry> const& items);
     // Replaces the entries' data and rebuilds the rows.
     void updateItemDatas(QVector<Entry> const& items);
-    // Makes i the current and the committed entry; false for a bad index.
+    // Makes i the current and the committed entry. A bad index (negative or past the
+    // end) is refused with "the index is bigger than _itemNameList!", a hidden row with
+    // "[DialogMenuWidget] setCurrentIndex: row <i> is hidden": false, nothing changes.
     bool setCurrentIndex(int i);
     // Like setCurrentIndex() without the current-signals; silent: no selection
     // signals either.
@@ -99,8 +101,8 @@ public:
     QVariant getItemData(int index, int role = Qt::UserRole) const;
     // An entry's text; empty for a bad index.
     QString getItemText(int index) const;
-    // Sets an entry's data for `role` (kept over rebuilds); a bad index is refused with
-    // "the index is bigger than _itemNameList!".
+    // Sets an entry's data for `role` (kept over rebuilds), without signals; a bad index
+    // is refused with "the index is bigger than _itemNameList!".
     void setItemData(int index, QVariant value, int role = Qt::UserRole) const;
     // Renames an entry, without signals; a bad index is refused with
     // "the index is bigger than _itemNameList!".

@@ -280,8 +280,12 @@ void DropCombobox::applySheet()
 
 void DropCombobox::setHeight(int height)
 {
-    if (height < 0 || height > QWIDGETSIZE_MAX) {
+    if (height < 0) {
         qDebug() << "[DropCombobox] setHeight: negative height refused:" << height;
+        return;
+    }
+    if (height > QWIDGETSIZE_MAX) {
+        qDebug() << "[DropCombobox] setHeight: height above" << QWIDGETSIZE_MAX << "refused:" << height;
         return;
     }
     lineEdit()->setFixedHeight(height);

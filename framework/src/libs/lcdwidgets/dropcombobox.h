@@ -135,7 +135,9 @@ public:
     void setFontSize(int size);
     // The text pixel size; -1 until set.
     int fontSize() const;
-    // Fixes the height of the combo and its line edit (negative: refused).
+    // Fixes the height of the combo and its line edit. Refused (debug log): a negative
+    // height ("[DropCombobox] setHeight: negative height refused: <h>") and one above
+    // QWIDGETSIZE_MAX ("[DropCombobox] setHeight: height above 16777215 refused: <h>").
     void setHeight(int height);
     // The page area popups must stay inside.
     void setHomeRect(QRect rect);

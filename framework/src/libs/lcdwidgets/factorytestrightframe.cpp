@@ -158,6 +158,12 @@ void FactoryTestRightFrame::startTest(int test)
         return;
     }
     d->poll->stop();
+    if (d->test >= 0) {
+        // The running test is dropped: it ends without a verdict.
+        int const dropped = d->test;
+        d->test = -1;
+        emit signalTestFinished(dropped, int(FactoryTestResult::NotTested));
+    }
     d->test = test;
     d->seen.clear();
     d->up = d->down = 0;

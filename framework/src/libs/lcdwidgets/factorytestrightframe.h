@@ -15,7 +15,7 @@
 //   range (<= low and >= high; 50 and 950 by default). Escape before that fails it.
 //   Without a proxy it logs "_pKeyBoard is nullptr" once and shows no reading.
 // A finished test emits signalTestFinished(test, result) once; NotTested means left
-// without a verdict.
+// without a verdict (or dropped by startTest()).
 //
 // Bad input is refused and logged at warning level, nothing changes:
 // "[FactoryTestRightFrame] test index out of range:" N, "[FactoryTestRightFrame] no keys
@@ -46,8 +46,9 @@ public:
     explicit FactoryTestRightFrame(QWidget* parent = nullptr);
     ~FactoryTestRightFrame() override;
 
-    // Starts a test (FactoryTestItem as int) from scratch; a test already running is dropped
-    // without a signal. A bad index is refused (see above).
+    // Starts a test (FactoryTestItem as int) from scratch; a test already running (the same
+    // one included) is dropped first and emits signalTestFinished(its index, NotTested). A
+    // bad index is refused (see above) and leaves a running test alone.
     void startTest(int test);
     // Ends the running test with that result (nothing runs afterwards).
     void finishTest(FactoryTestResult result);
@@ -90,7 +91,8 @@ public:
     QString bodyText() const;
 
 signals:
-    // The running test ended (once): its FactoryTestResult as int.
+    // The running test ended (once): its FactoryTestResult as int; NotTested when it was
+    // left without a verdict or dropped by startTest().
     void signalTestFinished(int test, int result);
     // The frame asks to be shown full screen (true) or back in the page.
     void signalFullScreen(bool full);

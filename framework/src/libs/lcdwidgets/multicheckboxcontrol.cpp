@@ -11,7 +11,6 @@ namespace Widget {
 struct MultiCheckBoxControl::Impl
 {
     int fontSize = 0;
-    QVector<int> current;
 };
 
 MultiCheckBoxControl::MultiCheckBoxControl(QWidget* parent) : MultiWidgetControl(parent), d(std::make_unique<Impl>())
@@ -67,7 +66,6 @@ int MultiCheckBoxControl::getCheckStatus(int value) const
 
 void MultiCheckBoxControl::setCurrentData(QVector<int> values)
 {
-    d->current = values;
     forEachBox(entries(), [&values](QCheckBox* box) {
         bool const was = box->blockSignals(true);
         box->setChecked(false);
@@ -77,7 +75,18 @@ void MultiCheckBoxControl::setCurrentData(QVector<int> values)
     });
 }
 
-QVector<int> MultiCheckBoxControl::getCurrentData() const { return d->current; }
+QVector<int> MultiCheckBoxControl::getCurrentData() const
+{
+    QVector<int> values;
+    forEachBox(entries(), [&values](QCheckBox* box) {
+        if (box->checkState() != Qt::Checked)
+            return;
+        int const value = choiceData(box, kChoiceValueId).toInt();
+        if (!values.contains(value))
+            values.append(value);
+    });
+    return values;
+}
 
 void MultiCheckBoxControl::setIconSize(QSize size) const
 {

@@ -26,9 +26,10 @@ public:
     void setCheckStatus(int value, bool checked, bool partial) const;
     // The check state (Qt::CheckState as int) of the first box with that value; -1 if none.
     int getCheckStatus(int value) const;
-    // Checks exactly the boxes whose values are listed (silently) and keeps the list.
+    // Checks exactly the boxes whose values are listed (silently).
     void setCurrentData(QVector<int> values);
-    // The list last given to setCurrentData() (the user's flips do not change it).
+    // The values of the boxes checked now, the user's flips included, in the boxes' order,
+    // each value once; a partially checked box is not counted.
     QVector<int> getCurrentData() const;
     // Icon size of every box; a negative side is refused
     // ("MultiCheckBoxControl::setIconSize: invalid size <w>x<h>").

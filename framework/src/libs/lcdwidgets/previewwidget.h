@@ -44,14 +44,6 @@ class LCDWIDGETS_EXPORT PreviewWidget : public QWidget
     Q_PROPERTY(QColor highlightColor READ highlightColor WRITE setHighlightColor)
     // Colour of the layers' labels.
     Q_PROPERTY(QColor textColor READ textColor WRITE setTextColor)
-    // (declared a second time) Colour of the canvas.
-    Q_PROPERTY(QColor backgroundColor READ backgroundColor WRITE setBackgroundColor)
-    // (declared a second time) Colour of the layers' frames.
-    Q_PROPERTY(QColor frameColor READ frameColor WRITE setFrameColor)
-    // (declared a second time) Colour of the current layer's outline.
-    Q_PROPERTY(QColor highlightColor READ highlightColor WRITE setHighlightColor)
-    // (declared a second time) Colour of the layers' labels.
-    Q_PROPERTY(QColor textColor READ textColor WRITE setTextColor)
 public:
     // No layers, canvas 1920 × 1080, labels 14 px; expands in both directions.
     explicit PreviewWidget(QWidget* parent = nullptr);

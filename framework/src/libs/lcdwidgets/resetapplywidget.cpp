@@ -161,6 +161,16 @@ bool ResetApplyWidget::eventFilter(QObject* watched, QEvent* event)
             return true;
         return QWidget::eventFilter(watched, event);
     }
+    if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+        // The knob's press on a focused button chooses it, as a click does.
+        if (watched == d->reset || watched == d->apply)
+            static_cast<QPushButton*>(watched)->click();
+        return true;
+    }
+    if (key == Qt::Key_Back) {
+        emit signalBackBtnClicked();
+        return true;
+    }
     // Any other key on the bar does nothing.
     return true;
 }

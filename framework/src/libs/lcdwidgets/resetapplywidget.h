@@ -3,8 +3,10 @@
 // ResetApplyWidget: the bar the knob walks through. With both buttons, Up on Reset
 // moves the focus to Apply and Down on Apply moves it back; Up on Apply (and Up in
 // a one-button bar) is handed to the event filter of the widget given to the
-// constructor, normally the page, which then moves its own current row. Every other
-// key press on the buttons is swallowed, so the knob never leaks past the bar.
+// constructor, normally the page, which then moves its own current row. Enter or
+// Return on a button clicks it; the back key (Qt::Key_Back) emits
+// signalBackBtnClicked(). Every other key press on the buttons is swallowed, so the
+// knob never leaks past the bar.
 //
 // TypeReset, TypeApply and TypeResetApply: plain rows with the same buttons that
 // only turn clicks into signals.
@@ -58,7 +60,7 @@ signals:
     void signalResetBtnClicked();
     // The Apply button was clicked.
     void signalApplyBtnClicked();
-    // Declared for the host; the bar itself never emits it.
+    // The back key (Qt::Key_Back) was pressed on one of the bar's buttons.
     void signalBackBtnClicked();
 
 protected:

@@ -22,6 +22,7 @@ struct __attribute__((visibility("hidden"))) ToastDialog::Impl
     QWidget* body = nullptr;
     QLabel* icon = nullptr;
     QLabel* text = nullptr;
+    QTimer* timer = nullptr; // single shot, started when the toast is shown
     bool permanent = false;
 };
 
@@ -31,7 +32,6 @@ ToastDialog::ToastDialog(QString const& text, unsigned int const& ms, int popupT
     d->dialog = this;
     setWindowFlags(Qt::ToolTip | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
     setAttribute(Qt::WA_TranslucentBackground);
-    setAttribute(Qt::WA_DeleteOnClose);
     d->permanent = permanent;
 
     d->body = new QWidget(this);
@@ -55,11 +55,11 @@ ToastDialog::ToastDialog(QString const& text, unsigned int const& ms, int popupT
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(d->body);
 
-    if (!permanent) {
-        // Bounded so that the timer's int interval cannot wrap round.
-        int const interval = int(qMin<unsigned int>(ms, unsigned(INT_MAX)));
-        QTimer::singleShot(interval, this, &QWidget::close);
-    }
+    d->timer = new QTimer(this);
+    d->timer->setSingleShot(true);
+    // Bounded so that the timer's int interval cannot wrap round.
+    d->timer->setInterval(int(qMin<unsigned int>(ms, unsigned(INT_MAX))));
+    connect(d->timer, &QTimer::timeout, this, &QWidget::close);
     setToastText(text);
     setPopupType(popupType);
 }
@@ -74,6 +74,9 @@ ToastDialog* ToastDialog::createToastDialog(QString const& text, unsigned int co
         return nullptr;
     }
     auto* toast = new ToastDialog(text, ms, popupType, permanent, parent);
+    // Only the toasts made here are ours to delete: one the caller made (on the stack,
+    // say) stays the caller's.
+    toast->setAttribute(Qt::WA_DeleteOnClose);
     toast->show();
     return toast;
 }
@@ -82,7 +85,12 @@ void ToastDialog::setToastText(QString const& text) { d->text->setText(text); }
 
 QString ToastDialog::toastText() const { return d->text->text(); }
 
-void ToastDialog::setPermanent(bool permanent) { d->permanent = permanent; }
+void ToastDialog::setPermanent(bool permanent)
+{
+    d->permanent = permanent;
+    if (permanent)
+        d->timer->stop();
+}
 
 bool ToastDialog::isPermanent() const { return d->permanent; }
 
@@ -103,6 +111,10 @@ void ToastDialog::showEvent(QShowEvent* event)
         move(parent->mapToGlobal(centre));
     }
     QDialog::showEvent(event);
+    // The time counts from showing (again from each showing). A toast hidden by someone
+    // else before its time still closes then: one of createToastDialog() goes away.
+    if (!d->permanent && !event->spontaneous())
+        d->timer->start();
 }
 
 void ToastDialog::keyPressEvent(QKeyEvent* event)

@@ -1,5 +1,7 @@
 // A small always-on-top popup with a typed icon and a text, centred on its parent,
-// that closes and deletes itself after a given time unless made permanent.
+// that closes after a given time (counted from showing) unless made permanent. The
+// toasts createToastDialog() makes delete themselves when closed; one the caller
+// constructs (on the stack or with new) is the caller's to delete.
 //
 //   ToastDialog::createToastDialog(tr("Recording started"), 2000, 3, false, page);
 //
@@ -20,8 +22,8 @@ class LCDWIDGETS_EXPORT ToastDialog : public QDialog
     Q_OBJECT
 public:
     // A top-most, frameless toast with `text` and the icon of `popupType` that closes after
-    // `ms` counted from construction (unless permanent). It always deletes itself when
-    // closed: create it with new.
+    // `ms` counted from each showing (unless permanent). It does not delete itself when
+    // closed: it may live on the stack, and may be shown again.
     ToastDialog(QString const& text, unsigned int const& ms, int popupType = 2, bool permanent = false,
                 QWidget* parent = nullptr);
     ~ToastDialog() override;
@@ -35,8 +37,8 @@ public:
     void setToastText(QString const& text);
     // The toast's text.
     QString toastText() const;
-    // A permanent toast stays until its owner closes it; clearing the flag later
-    // does not start a timer.
+    // A permanent toast stays until its owner closes it: setting the flag stops a running
+    // timer; clearing it does not start one (the next showing does).
     void setPermanent(bool permanent);
     // Whether the toast stays until its owner closes it.
     bool isPermanent() const;

@@ -152,6 +152,7 @@ void TypeIntAdjustSlider::setRangeMin(int minimum)
     d->spinBox->setMinimum(minimum);
     d->spinBox->blockSignals(false);
     d->slider->setMinimum(d->spinBox->minimum());
+    setSpinBoxWidth();
 }
 
 void TypeIntAdjustSlider::setRangeMax(int maximum)

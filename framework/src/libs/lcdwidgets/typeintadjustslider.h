@@ -49,7 +49,8 @@ public:
     void setContentDisabled(bool disabled) const override;
     void setContentFontSize(int size) override;
 
-    // Lower bound alone, silently (the value is clamped into the range without a signal).
+    // Lower bound alone, silently (the value is clamped into the range without a signal);
+    // the spin box's width is fitted to the range again.
     void setRangeMin(int minimum);
     // Upper bound alone, silently; the spin box's width is fitted to the range again.
     void setRangeMax(int maximum);

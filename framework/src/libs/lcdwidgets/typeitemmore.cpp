@@ -14,7 +14,7 @@ namespace Widget {
 
 namespace {
 
-constexpr char kLoadingImage[] = "../share/themes/default/images/icon_picture_loading.gif";
+constexpr char kLoadingImage[] = "./../share/themes/default/images/icon_picture_loading.gif";
 constexpr char kFailedImage[] = "../share/themes/default/images/icon_picture_failed.png";
 constexpr int kMarkSide = 24;
 

@@ -54,7 +54,7 @@ public:
     // The preview mark ("isPvwShow").
     QPushButton* previewMark() const;
 
-    // The loading animation's file, "../share/themes/default/images/icon_picture_loading.gif".
+    // The loading animation's file, "./../share/themes/default/images/icon_picture_loading.gif".
     static QString loadingImage();
 
 protected:

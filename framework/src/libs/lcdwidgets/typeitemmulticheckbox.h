@@ -28,7 +28,8 @@ public:
     void setCheckStatus(int value, bool checked, bool partial);
     // The Qt::CheckState (as int) of the first box with that value; -1 if none.
     int getCheckStatus(int value) const;
-    // The list last given to setCurrentValue() (the user's flips do not change it).
+    // The values of the boxes checked now, the user's flips included, in the boxes' order,
+    // each value once; a partially checked box is not counted.
     QVector<int> getCurrentValue() const;
     // Checks exactly the boxes whose values are listed, silently.
     void setCurrentValue(QVector<int> values);
