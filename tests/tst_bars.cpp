@@ -232,7 +232,7 @@ private slots:
         QCOMPARE(page.calls.at(0).key, int(Qt::Key_Up));
     }
 
-    void resetApplyOtherKeysDoNothing()
+    void resetApplyKeys()
     {
         Recorder page;
         ResetApplyWidget bar(Enum::ResetAndApplyButton, &page);
@@ -253,18 +253,8 @@ private slots:
         QCOMPARE(applySpy.count(), 0);
         QCOMPARE(backSpy.count(), 0);
         QVERIFY(page.calls.isEmpty());
-    }
 
-    void resetApplyPressClicksAndBackGoesBack()
-    {
-        Recorder page;
-        ResetApplyWidget bar(Enum::ResetAndApplyButton, &page);
-        showAndLayout(&bar);
-        bar.activateWindow();
-        QSignalSpy resetSpy(&bar, &ResetApplyWidget::signalResetBtnClicked);
-        QSignalSpy applySpy(&bar, &ResetApplyWidget::signalApplyBtnClicked);
-        QSignalSpy backSpy(&bar, &ResetApplyWidget::signalBackBtnClicked);
-
+        // The press clicks the focused button; the back key goes back.
         bar.getResetButton()->setFocus(Qt::OtherFocusReason);
         QVERIFY(Knob::press(&bar));
         QCOMPARE(resetSpy.count(), 1);
