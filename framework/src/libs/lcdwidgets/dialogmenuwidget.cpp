@@ -1,4 +1,5 @@
 #include "dialogmenuwidget.h"
+#include "sheet_p.h"
 #include "inputcheck_p.h"
 
 #include <QApplication>
@@ -497,8 +498,7 @@ void DialogMenuWidget::setContentFontSize(int size)
     }
     d->delegate->setFontPixelSize(size);
     QString const sheet = QStringLiteral("font-size:%1px;").arg(size);
-    if (d->title->styleSheet() != sheet)
-        d->title->setStyleSheet(sheet);
+    applyStyleSheet(d->title, sheet);
     d->list->viewport()->update();
 }
 

@@ -1,4 +1,5 @@
 #include "dropcombobox.h"
+#include "sheet_p.h"
 #include "inputcheck_p.h"
 
 #include <QAbstractItemView>
@@ -530,8 +531,7 @@ void DropCombobox::showCustomPopupView()
 
     if (d->fontSize > 0) {
         QString const sheet = QStringLiteral("QListView{font-size: ") + QString::number(d->fontSize) + QStringLiteral("px; }");
-        if (list->styleSheet() != sheet)
-            list->setStyleSheet(sheet);
+        applyStyleSheet(list, sheet);
         list->setIconSize(iconSize());
     }
     applyHiddenRows(list);

@@ -1,4 +1,5 @@
 #include "effectpicturewidget.h"
+#include "sheet_p.h"
 
 #include "choicekeys_p.h"
 #include "spinrow_p.h"
@@ -207,8 +208,7 @@ void EffectPictureWidget::setContentFontSize(int size)
     QString const sheet = QStringLiteral("QPushButton{font-size:%1px;border-radius:%2px;}").arg(size).arg(size / 4);
     for (QPushButton* b : qAsConst(d->buttons)) {
         b->setFixedSize(buttonWidth, rowHeight);
-        if (b->styleSheet() != sheet)
-            b->setStyleSheet(sheet);
+        applyStyleSheet(b, sheet);
         if (auto* picture = b->findChild<QLabel*>())
             picture->setFixedSize(rowHeight, rowHeight);
     }

@@ -1,4 +1,5 @@
 #include "multibtncontrol.h"
+#include "sheet_p.h"
 
 #include "choicekeys_p.h"
 #include "stylehelper.h"
@@ -457,8 +458,7 @@ void MultiBtnControl::setContentFontSize(int size)
         // An icon-only button's icon fills two thirds of its height.
         if (auto* tool = qobject_cast<QAbstractButton*>(button); tool && pair.first == e_ToolButton)
             tool->setIconSize(QSize(height * 2 / 3, height * 2 / 3));
-        if (button->styleSheet() != sheet)
-            button->setStyleSheet(sheet);
+        applyStyleSheet(button, sheet);
         button->adjustSize();
     }
     updateWidth();

@@ -1,4 +1,5 @@
 #include "multicheckboxcontrol.h"
+#include "sheet_p.h"
 
 #include "choicekeys_p.h"
 
@@ -114,8 +115,7 @@ void MultiCheckBoxControl::setFontSize(int size)
                           n + QStringLiteral("px; }") + QStringLiteral("QCheckBox:focus {border:") +
                           QString::number(size / 20) + QStringLiteral("px solid rgb(0,140,242) }");
     forEachBox(entries(), [&sheet](QCheckBox* box) {
-        if (box->styleSheet() != sheet)
-            box->setStyleSheet(sheet);
+        applyStyleSheet(box, sheet);
     });
     setSpacing(size / 4);
 }

@@ -1,4 +1,5 @@
 #include "typedialogmenu.h"
+#include "sheet_p.h"
 #include "inputcheck_p.h"
 
 #include "dialogmenuwidget.h"
@@ -376,8 +377,7 @@ void TypeDialogMenu::setContentFontSize(int size)
     d->valueLabel->setFont(font);
     d->dialog->setContentFontSize(f);
     QString const sheet = QStringLiteral("font-size:%1px; border-radius:%2px;").arg(f).arg(itemHeight() / 9);
-    if (d->dialog->listWidget()->styleSheet() != sheet)
-        d->dialog->listWidget()->setStyleSheet(sheet);
+    applyStyleSheet(d->dialog->listWidget(), sheet);
     d->valueLabel->setText(labelText());
     d->valueLabel->updateElidedText(getDynamicMaxWidth());
 }

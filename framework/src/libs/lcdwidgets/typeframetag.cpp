@@ -1,4 +1,5 @@
 #include "typeframetag.h"
+#include "sheet_p.h"
 
 #include "stylehelper.h"
 
@@ -105,8 +106,7 @@ void TypeFrameTag::applyKind()
                     .arg(d->fontSize)
                     .arg(d->color.name(QColor::HexArgb), text.name());
     }
-    if (d->tag->styleSheet() != sheet)
-        d->tag->setStyleSheet(sheet);
+    applyStyleSheet(d->tag, sheet);
     setStyleProperty(d->tag, "frameTagKind", QString::fromLatin1(kindName(d->kind)));
 }
 

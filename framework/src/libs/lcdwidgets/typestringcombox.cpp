@@ -1,4 +1,5 @@
 #include "typestringcombox.h"
+#include "sheet_p.h"
 #include "inputcheck_p.h"
 
 #include "dropcombobox.h"
@@ -68,8 +69,7 @@ struct LCDWIDGETS_HIDDEN TypeStringCombox::Impl
         if (label->isHidden())
             return; // applied when it is shown
         QString const sheet = labelSheet();
-        if (label->styleSheet() != sheet)
-            label->setStyleSheet(sheet);
+        applyStyleSheet(label, sheet);
     }
     void endEdit(bool back);
     // The title gets the room the value widgets leave.
